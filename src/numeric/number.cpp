@@ -1,0 +1,136 @@
+#include "numeric/number.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "numeric/text.h"
+#include "platform/error.h"
+
+namespace kalvane {
+namespace {
+
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// Length of the longest prefix of `text` (no leading blanks) that is a number; 0 when there is none.
+std::size_t NumberLength(std::string_view text) {
+    std::size_t i = 0;
+    if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
+    const std::size_t mantissa = i;
+    std::size_t digits = 0;
+    while (i < text.size() && IsDigit(text[i])) ++i, ++digits;
+    if (i < text.size() && text[i] == '.') {
+        ++i;
+        while (i < text.size() && IsDigit(text[i])) ++i, ++digits;
+    }
+    if (digits == 0) return 0;
+    std::size_t exponent = i;
+    if (i > mantissa && exponent < text.size() && (text[exponent] == 'e' || text[exponent] == 'E')) {
+        ++exponent;
+        if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
+        const std::size_t first = exponent;
+        while (exponent < text.size() && IsDigit(text[exponent])) ++exponent;
+        if (exponent > first) i = exponent;
+    }
+    return i;
+}
+
+double Convert(std::string_view number) {
+    if (!number.empty() && number.front() == '+') number.remove_prefix(1);
+    double value = 0;
+    const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (result.ec == std::errc::result_out_of_range) {
+        // An exponent far below the range is a plain zero; one above it has no value at all.
+        const std::size_t e = number.find_first_of("eE");
+        if (e != std::string_view::npos && e + 1 < number.size() && number[e + 1] == '-') return 0;
+        throw NumericError::Overflow();
+    }
+    return value;
+}
+
+/// General form with `digits` significant digits, as printf's %G writes it.
+template <typename Float>
+std::string GeneralText(Float value, int digits) {
+    char buffer[48];
+    const auto result =
+        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, digits);
+    std::string text(buffer, result.ptr);
+    for (char& c : text) {
+        if (c == 'e') c = 'E';
+    }
+    return text == "-0" ? "0" : text;
+}
+
+double RoundHalfToEven(double value) {
+    // nearbyint follows the rounding mode, which this program never changes from to-nearest-even.
+    return std::nearbyint(value);
+}
+
+template <typename Int>
+Int ToInt(double whole) {
+    constexpr double kLow = std::numeric_limits<Int>::min();
+    constexpr double kHigh = std::numeric_limits<Int>::max();
+    if (!(whole >= kLow && whole <= kHigh)) throw NumericError::Overflow();
+    return static_cast<Int>(whole);
+}
+
+}  // namespace
+
+double Val(std::string_view text) {
+    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+    const std::size_t length = NumberLength(text);
+    return length == 0 ? 0 : Convert(text.substr(0, length));
+}
+
+bool IsNumeric(std::string_view text) {
+    text = Trim(text);
+    return !text.empty() && NumberLength(text) == text.size();
+}
+
+double ParseNumber(std::string_view text) {
+    text = Trim(text);
+    if (text.empty() || NumberLength(text) != text.size()) throw NumericError::TypeMismatch();
+    return Convert(text);
+}
+
+std::string ShortText(float value) { return GeneralText(value, 7); }
+std::string ShortText(double value) { return GeneralText(value, 15); }
+std::string ShortText(std::int64_t value) { return std::to_string(value); }
+
+double CutTo15Digits(double value) {
+    // Most lengths are whole or end in a short binary fraction: with five integer digits and ten binary
+    // places the decimal text has at most 15 digits and loses nothing.
+    constexpr double kPlaces = 1024;
+    if (std::fabs(value) < 1e5) {
+        const double scaled = value * kPlaces;
+        if (scaled == std::trunc(scaled)) return value == 0 ? 0 : value;
+    }
+    char buffer[48];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 15).ptr;
+    double result = 0;
+    std::from_chars(buffer, end, result);
+    return result;
+}
+
+std::int16_t RoundToInt16(double value) { return ToInt<std::int16_t>(RoundHalfToEven(value)); }
+std::int32_t RoundToInt32(double value) { return ToInt<std::int32_t>(RoundHalfToEven(value)); }
+std::int16_t FloorToInt16(double value) { return ToInt<std::int16_t>(std::floor(value)); }
+std::int32_t FloorToInt32(double value) { return ToInt<std::int32_t>(std::floor(value)); }
+
+std::int16_t Checked16(std::int64_t value) {
+    if (value < std::numeric_limits<std::int16_t>::min() || value > std::numeric_limits<std::int16_t>::max()) {
+        throw NumericError::Overflow();
+    }
+    return static_cast<std::int16_t>(value);
+}
+
+double RoundTo4Decimals(double value) { return RoundHalfToEven(value * 10000) / 10000; }
+
+float NarrowToFloat(double value) {
+    if (std::fabs(value) > static_cast<double>(std::numeric_limits<float>::max())) {
+        throw NumericError::Overflow();
+    }
+    return static_cast<float>(value);
+}
+
+}  // namespace kalvane

@@ -1,0 +1,86 @@
+#include "numeric/text.h"
+
+namespace kalvane {
+namespace {
+
+constexpr bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+
+constexpr char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+/// Full-width small letters are U+FF41 to U+FF5A, bytes EF BD 81 to EF BD 9A; the capitals, U+FF21 to
+/// U+FF3A, are EF BC A1 to EF BC BA.
+bool IsFullWidthSmall(std::string_view text, std::size_t i) {
+    if (i + 2 >= text.size()) return false;
+    const auto b0 = static_cast<unsigned char>(text[i]);
+    const auto b1 = static_cast<unsigned char>(text[i + 1]);
+    const auto b2 = static_cast<unsigned char>(text[i + 2]);
+    return b0 == 0xEF && b1 == 0xBD && b2 >= 0x81 && b2 <= 0x9A;
+}
+
+}  // namespace
+
+std::string_view Trim(std::string_view text) {
+    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+    while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+    return text;
+}
+
+std::string UpperCase(std::string_view text) {
+    std::string result(text);
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        if (IsFullWidthSmall(result, i)) {
+            result[i + 1] = static_cast<char>(0xBC);
+            result[i + 2] = static_cast<char>(static_cast<unsigned char>(result[i + 2]) + 0x20);
+            i += 2;
+        } else {
+            result[i] = Upper(result[i]);
+        }
+    }
+    return result;
+}
+
+bool EqualIgnoringCase(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (Upper(a[i]) != Upper(b[i])) return false;
+    }
+    return true;
+}
+
+std::size_t CharCount(std::string_view text) {
+    std::size_t count = 0;
+    for (const char c : text) count += IsContinuation(c) ? 0 : 1;
+    return count;
+}
+
+bool IsUtf8(std::string_view bytes) {
+    for (std::size_t i = 0; i < bytes.size();) {
+        const auto lead = static_cast<unsigned char>(bytes[i]);
+        std::size_t length = 1;
+        char32_t code = lead;
+        if (lead >= 0xF0 && lead <= 0xF4) {
+            length = 4;
+            code = lead & 0x07U;
+        } else if (lead >= 0xE0) {
+            length = 3;
+            code = lead & 0x0FU;
+        } else if (lead >= 0xC2) {
+            length = 2;
+            code = lead & 0x1FU;
+        } else if (lead >= 0x80) {
+            return false;
+        }
+        if (lead > 0xF4 || i + length > bytes.size()) return false;
+        for (std::size_t k = 1; k < length; ++k) {
+            if (!IsContinuation(bytes[i + k])) return false;
+            code = (code << 6) | (static_cast<unsigned char>(bytes[i + k]) & 0x3FU);
+        }
+        const bool overlong = (length == 3 && code < 0x800) || (length == 4 && code < 0x10000);
+        const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
+        if (overlong || surrogate || code > 0x10FFFF) return false;
+        i += length;
+    }
+    return true;
+}
+
+}  // namespace kalvane

@@ -1,0 +1,93 @@
+#include "platform/files.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+
+#include "platform/error.h"
+
+namespace kalvane {
+namespace {
+
+std::string Reason(int code) {
+    switch (code) {
+        case ENOSPC:
+            return "磁盘已满";
+        case EACCES:
+        case EPERM:
+            return "没有权限";
+        case EROFS:
+            return "磁盘是只读的";
+        case ENOENT:
+            return "文件夹不存在";
+        default:
+            return std::strerror(code);
+    }
+}
+
+[[noreturn]] void FailWriting(const std::filesystem::path& path, int code) {
+    throw FileError("文件“" + path.string() + "”不能写入：" + Reason(code) + "。");
+}
+
+/// Owns a file descriptor.
+class Descriptor {
+  public:
+    explicit Descriptor(int number) : number_(number) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() {
+        if (number_ >= 0) ::close(number_);
+    }
+    int Get() const { return number_; }
+
+  private:
+    int number_;
+};
+
+void WriteAll(int descriptor, std::string_view bytes, const std::filesystem::path& path) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+        if (written < 0) {
+            if (errno == EINTR) continue;
+            FailWriting(path, errno);
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+}
+
+}  // namespace
+
+std::string ReadFile(const std::filesystem::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream || std::filesystem::is_directory(path)) {
+        throw FileError("文件“" + path.string() + "”不能打开。");
+    }
+    std::string bytes{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    if (stream.bad()) throw FileError("文件“" + path.string() + "”不能读取。");
+    return bytes;
+}
+
+void WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes) {
+    std::filesystem::path beside = path;
+    beside += ".tmp" + std::to_string(::getpid());
+    try {
+        const Descriptor file(::open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+        if (file.Get() < 0) FailWriting(path, errno);
+        WriteAll(file.Get(), bytes, path);
+        if (::fsync(file.Get()) != 0) FailWriting(path, errno);
+        if (::rename(beside.c_str(), path.c_str()) != 0) FailWriting(path, errno);
+    } catch (...) {
+        ::unlink(beside.c_str());
+        throw;
+    }
+    // The rename itself must survive a power cut; a folder that cannot be opened for it is no failure.
+    const std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : ".";
+    const Descriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (directory.Get() >= 0) ::fsync(directory.Get());
+}
+
+}  // namespace kalvane

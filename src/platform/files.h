@@ -1,0 +1,16 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace kalvane {
+
+/// All bytes of a file; throws FileError when it cannot be read.
+std::string ReadFile(const std::filesystem::path& path);
+
+/// Replaces a file's content as one step: the bytes go to a file beside it, are flushed to the disk and
+/// renamed into place. A failure throws FileError and leaves the old file as it was.
+void WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes);
+
+}  // namespace kalvane

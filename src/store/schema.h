@@ -1,0 +1,38 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace kalvane {
+
+/// Declared column types. Every column accepts Null.
+enum class ColumnType { Int16, Int32, Float32, Money, Text, Memo, DateTime };
+
+struct Column {
+    std::string_view name;
+    ColumnType type;
+    int width = 0;  ///< most characters of a Text column
+};
+
+struct Table {
+    std::string_view name;
+    std::span<const Column> columns;
+    std::string_view indexColumn;  ///< column that lookups go by, or empty; row order never depends on it
+};
+
+/// The kinds of store file.
+enum class StoreKind { Main, Stock, Users };
+
+/// Tables of a store, in the order in which they are made.
+std::span<const Table> TablesOf(StoreKind kind);
+
+/// The table of that name in any store, without regard to case; null when there is none.
+const Table* FindTable(std::string_view name);
+
+/// The column of that name, without regard to case; null when there is none.
+const Column* FindColumn(const Table& table, std::string_view name);
+
+/// Version of the layout, kept in each store file.
+inline constexpr int kSchemaVersion = 1;
+
+}  // namespace kalvane
