@@ -33,9 +33,9 @@ struct AppState {
     std::string postNoteNumber;
 
     OptimiseSettings optimise;
-    std::int16_t YHScheme = 0;            ///< 0 practical optimiser, else the linear one
-    std::string optimiseProjectName;      ///< heading of the plan's output
-    SettingsStore* settings = nullptr;    ///< owned by main
+    std::int16_t YHScheme = 0;          ///< 0 practical optimiser, else the linear one
+    std::string optimiseProjectName;    ///< heading of the plan's output
+    SettingsStore* settings = nullptr;  ///< owned by main
 
     /// The open main store; throws StoreError when it could not be opened at the start.
     Connection& Main();

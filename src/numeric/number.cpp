@@ -10,7 +10,9 @@
 namespace kalvane {
 namespace {
 
-constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 /// Length of the longest prefix of `text` (no leading blanks) that is a number; 0 when there is none.
 std::size_t NumberLength(std::string_view text) {
@@ -93,9 +95,15 @@ double ParseNumber(std::string_view text) {
     return Convert(text);
 }
 
-std::string ShortText(float value) { return GeneralText(value, 7); }
-std::string ShortText(double value) { return GeneralText(value, 15); }
-std::string ShortText(std::int64_t value) { return std::to_string(value); }
+std::string ShortText(float value) {
+    return GeneralText(value, 7);
+}
+std::string ShortText(double value) {
+    return GeneralText(value, 15);
+}
+std::string ShortText(std::int64_t value) {
+    return std::to_string(value);
+}
 
 double CutTo15Digits(double value) {
     // Most lengths are whole or end in a short binary fraction: with five integer digits and ten binary
@@ -112,19 +120,30 @@ double CutTo15Digits(double value) {
     return result;
 }
 
-std::int16_t RoundToInt16(double value) { return ToInt<std::int16_t>(RoundHalfToEven(value)); }
-std::int32_t RoundToInt32(double value) { return ToInt<std::int32_t>(RoundHalfToEven(value)); }
-std::int16_t FloorToInt16(double value) { return ToInt<std::int16_t>(std::floor(value)); }
-std::int32_t FloorToInt32(double value) { return ToInt<std::int32_t>(std::floor(value)); }
+std::int16_t RoundToInt16(double value) {
+    return ToInt<std::int16_t>(RoundHalfToEven(value));
+}
+std::int32_t RoundToInt32(double value) {
+    return ToInt<std::int32_t>(RoundHalfToEven(value));
+}
+std::int16_t FloorToInt16(double value) {
+    return ToInt<std::int16_t>(std::floor(value));
+}
+std::int32_t FloorToInt32(double value) {
+    return ToInt<std::int32_t>(std::floor(value));
+}
 
 std::int16_t Checked16(std::int64_t value) {
-    if (value < std::numeric_limits<std::int16_t>::min() || value > std::numeric_limits<std::int16_t>::max()) {
+    if (value < std::numeric_limits<std::int16_t>::min() ||
+        value > std::numeric_limits<std::int16_t>::max()) {
         throw NumericError::Overflow();
     }
     return static_cast<std::int16_t>(value);
 }
 
-double RoundTo4Decimals(double value) { return RoundHalfToEven(value * 10000) / 10000; }
+double RoundTo4Decimals(double value) {
+    return RoundHalfToEven(value * 10000) / 10000;
+}
 
 float NarrowToFloat(double value) {
     if (std::fabs(value) > static_cast<double>(std::numeric_limits<float>::max())) {

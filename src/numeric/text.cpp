@@ -3,9 +3,13 @@
 namespace kalvane {
 namespace {
 
-constexpr bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+constexpr bool IsContinuation(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
 
-constexpr char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+constexpr char Upper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
 
 /// Full-width small letters are U+FF41 to U+FF5A, bytes EF BD 81 to EF BD 9A; the capitals, U+FF21 to
 /// U+FF3A, are EF BC A1 to EF BC BA.

@@ -1,0 +1,91 @@
+#include "ui/report_list.h"
+
+#include <QHeaderView>
+
+namespace kalvane {
+namespace {
+constexpr int kTagRole = Qt::UserRole;
+constexpr int kColumnPadding = 16;
+}  // namespace
+
+ReportList::ReportList(const QString& name, const QStringList& columns, QWidget* parent)
+    : QTreeWidget(parent) {
+    setObjectName(name);
+    setColumnCount(static_cast<int>(columns.size()));
+    setHeaderLabels(columns);
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setAlternatingRowColors(true);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setTabKeyNavigation(false);
+    connect(header(), &QHeaderView::sectionResized, this, [this] {
+        if (!fitting_ && isVisible()) userSized_ = true;
+    });
+}
+
+int ReportList::AddRow(const QStringList& texts, const QString& tag) {
+    auto* item = new QTreeWidgetItem(this, texts);
+    item->setData(0, kTagRole, tag);
+    FitColumns();
+    return indexOfTopLevelItem(item);
+}
+
+QStringList ReportList::Row(int row) const {
+    QStringList texts;
+    for (int column = 0; column < columnCount(); ++column) texts << Text(row, column);
+    return texts;
+}
+
+QString ReportList::Text(int row, int column) const {
+    return topLevelItem(row)->text(column);
+}
+
+QString ReportList::Tag(int row) const {
+    return topLevelItem(row)->data(0, kTagRole).toString();
+}
+
+void ReportList::SetRow(int row, const QStringList& texts) {
+    for (int column = 0; column < texts.size(); ++column) SetText(row, column, texts[column]);
+}
+
+void ReportList::SetText(int row, int column, const QString& text) {
+    topLevelItem(row)->setText(column, text);
+    FitColumns();
+}
+
+void ReportList::RemoveRow(int row) {
+    delete takeTopLevelItem(row);
+}
+
+void ReportList::Clear() {
+    clear();
+}
+
+int ReportList::SelectedRow() const {
+    const QList<QTreeWidgetItem*> selected = selectedItems();
+    return selected.isEmpty() ? -1 : indexOfTopLevelItem(selected.front());
+}
+
+void ReportList::SelectRow(int row) {
+    QTreeWidgetItem* item = topLevelItem(row);
+    setCurrentItem(item);
+    scrollToItem(item);
+}
+
+void ReportList::showEvent(QShowEvent* event) {
+    QTreeWidget::showEvent(event);
+    FitColumns();
+}
+
+void ReportList::FitColumns() {
+    if (userSized_ || !isVisible()) return;
+    fitting_ = true;
+    for (int column = 0; column < columnCount(); ++column) {
+        resizeColumnToContents(column);
+        setColumnWidth(column, columnWidth(column) + kColumnPadding);
+    }
+    fitting_ = false;
+}
+
+}  // namespace kalvane
