@@ -102,7 +102,7 @@ class RealDialogs final : public Dialogs {
     }
 
     static QString Titled(const QString& title) {
-        return title.isEmpty() ? QApplication::applicationDisplayName() : title;
+        return title.isEmpty() ? QApplication::applicationName() : title;
     }
 
     static int ShowBox(QWidget* parent, const QString& text, const QString& title, QMessageBox::Icon icon,
