@@ -6,8 +6,8 @@
 #include "app/screens/MDIMain.h"
 #include "app/screens/frmLogin.h"
 #include "app/screens/frmSetup.h"
+#include "app/store_setup.h"
 #include "platform/settings_store.h"
-#include "store/store_files.h"
 #include "ui/application.h"
 #include "ui/guard.h"
 
