@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "optimise/ctable.h"
+#include "optimise/pattern_search.h"
+#include "optimise/settings.h"
+#include "platform/notice.h"
+#include "store/connection.h"
+
+namespace kalvane {
+
+/// The second scheme: for each bar the pattern that leaves the least waste among the remaining pieces, cut
+/// as many times as the demand allows. A row of 优化结果 stands for all bars of one pattern.
+class LinearOptimiser {
+  public:
+    /// `tick` is called every few milliseconds of a long search, so that a screen can repaint.
+    LinearOptimiser(Connection& connection, const OptimiseSettings& settings, Notice& notice,
+                    std::function<void()> tick);
+
+    /// `name` is the material's 规格; `stock` the bar in mm; `demand` has a length (mm) and its pieces per
+    /// row, shortest first, and a length may come more than once. More than NODES pieces are searched by an
+    /// even sample of NODES.
+    ///
+    /// Any failure ends this material only: it is shown under "出错", and the rows already written stay.
+    void OptimiseLinear(const std::string& name, std::int16_t stock, Cursor& demand);
+
+  private:
+    void LoadPieces(Cursor& demand);
+    void Run(const std::string& name, std::int16_t stock);
+    void SamplePieces();
+    void DrainTable(const std::string& name, std::int16_t stock, const CTable& pool, CTable& pieces);
+    void EmitPattern(const std::string& name, std::int16_t stock, const CTable& pool, CTable& pieces);
+    void EmitAll(const std::string& name, CTable& pieces);
+    void EmitRepeated(const std::string& name, std::int16_t stock, CTable& pieces);
+    void WriteRow(const std::string& name, std::int16_t repetition, float ratio);
+
+    Connection& connection_;
+    const OptimiseSettings& settings_;
+    Notice& notice_;
+    PatternSearch search_;
+    CTable pieceTable_;  // all remaining pieces of the material
+    CTable poolTable_;   // a sample of them
+};
+
+}  // namespace kalvane

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "optimise/demand_file.h"
+#include "optimise/settings.h"
+#include "platform/notice.h"
+#include "store/connection.h"
+
+namespace kalvane {
+
+/// A refused manual row: what to say, under the title "提示", and the box to go back to.
+struct ManualRowFailure {
+    enum class Field { Length, Count };
+    Field field;
+    std::string message;
+    NoticeIcon icon;
+};
+
+/// Checks a row before it is added: both fields stand, and the length is below the bar's.
+std::optional<ManualRowFailure> CheckManualRow(const ManualRow& row, const OptimiseSettings& settings);
+
+/// Lays out bars for typed rows, with no project behind them: replaces 优化数据 and 优化结果 and runs the
+/// scheme (0 practical, any other linear) with `name` as the material. `tick` is called every few
+/// milliseconds of a long search; it may be empty.
+///
+/// A failure of the linear optimiser is shown under "出错"; all others are thrown, and the rows already
+/// written stay.
+void RunManual(Connection& connection, const OptimiseSettings& settings, std::int16_t scheme,
+               const std::string& name, const std::vector<ManualRow>& rows, Notice& notice,
+               std::function<void()> tick);
+
+}  // namespace kalvane

@@ -1,0 +1,117 @@
+#include "platform/workbook.h"
+
+#include <unistd.h>
+#include <xlsxwriter.h>
+
+#include <cstdlib>
+
+#include "numeric/number.h"
+#include "platform/error.h"
+#include "platform/files.h"
+
+namespace kalvane {
+namespace {
+
+/// An empty file of our own in the folder for temporary files; gone when this goes.
+class TemporaryFile {
+  public:
+    TemporaryFile() : path_((std::filesystem::temp_directory_path() / "kalvane-XXXXXX").string()) {
+        const int descriptor = ::mkstemp(path_.data());
+        if (descriptor < 0) throw FileError("临时文件“" + path_ + "”不能写入。");
+        ::close(descriptor);
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile() { ::unlink(path_.c_str()); }
+
+    const std::string& Path() const { return path_; }
+
+  private:
+    std::string path_;
+};
+
+void Check(lxw_error result) {
+    if (result != LXW_NO_ERROR) throw FileError(std::string("电子表格不能写入：") + lxw_strerror(result));
+}
+
+lxw_row_t RowIndex(int row) {
+    return static_cast<lxw_row_t>(row - 1);
+}
+lxw_col_t ColumnIndex(int column) {
+    return static_cast<lxw_col_t>(column - 1);
+}
+
+}  // namespace
+
+void Sheet::WriteText(int row, int column, std::string text) {
+    Cell& cell = cells_[{row, column}];
+    cell.text = std::move(text);
+    cell.isNumber = false;
+}
+
+void Sheet::WriteValue(int row, int column, std::string text) {
+    Cell& cell = cells_[{row, column}];
+    cell.isNumber = IsNumeric(text);
+    cell.text = std::move(text);
+}
+
+void Sheet::MergeCentred(int firstRow, int firstColumn, int lastRow, int lastColumn, std::string text) {
+    merges_.push_back({firstRow, firstColumn, lastRow, lastColumn, std::move(text)});
+}
+
+void Sheet::SetColumnWidth(int column, double width) {
+    widths_[column] = width;
+}
+
+void Sheet::DrawBorders(int firstRow, int firstColumn, int lastRow, int lastColumn) {
+    for (int row = firstRow; row <= lastRow; ++row) {
+        for (int column = firstColumn; column <= lastColumn; ++column) {
+            cells_[{row, column}].hasBorder = true;
+        }
+    }
+}
+
+void Workbook::Save(const std::filesystem::path& path) const {
+    const TemporaryFile file;
+    lxw_workbook* book = workbook_new(file.Path().c_str());
+    if (book == nullptr) throw FileError("电子表格不能写入。");
+    lxw_format* centred = workbook_add_format(book);
+    format_set_align(centred, LXW_ALIGN_CENTER);
+    lxw_format* bordered = workbook_add_format(book);
+    format_set_border(bordered, LXW_BORDER_THIN);
+    lxw_error failure = LXW_NO_ERROR;
+    const auto note = [&failure](lxw_error result) {
+        if (failure == LXW_NO_ERROR) failure = result;
+    };
+
+    for (const Sheet& sheet : sheets_) {
+        lxw_worksheet* target = workbook_add_worksheet(book, nullptr);
+        for (const auto& [column, width] : sheet.widths_) {
+            note(worksheet_set_column(target, ColumnIndex(column), ColumnIndex(column), width, nullptr));
+        }
+        for (const Sheet::Merge& merge : sheet.merges_) {
+            note(worksheet_merge_range(target, RowIndex(merge.firstRow), ColumnIndex(merge.firstColumn),
+                                       RowIndex(merge.lastRow), ColumnIndex(merge.lastColumn),
+                                       merge.text.c_str(), centred));
+        }
+        for (const auto& [place, cell] : sheet.cells_) {
+            const lxw_row_t row = RowIndex(place.first);
+            const lxw_col_t column = ColumnIndex(place.second);
+            lxw_format* format = cell.hasBorder ? bordered : nullptr;
+            if (cell.isNumber) {
+                note(worksheet_write_number(target, row, column, ParseNumber(cell.text), format));
+            } else if (cell.text.empty()) {
+                note(worksheet_write_blank(target, row, column, format));
+            } else {
+                note(worksheet_write_string(target, row, column, cell.text.c_str(), format));
+            }
+        }
+    }
+    // Closing releases the library's memory, also after a failure.
+    const lxw_error closed = workbook_close(book);
+    Check(failure);
+    Check(closed);
+    WriteFileAtomically(path, ReadFile(file.Path()));
+}
+
+}  // namespace kalvane
