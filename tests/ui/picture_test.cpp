@@ -3,10 +3,10 @@
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QTemporaryDir>
 
 #include "drawing/recorders.h"
 #include "platform/files.h"
+#include "support/temp_folder.h"
 #include "ui/picture_box.h"
 #include "ui/window_picture.h"
 
@@ -34,8 +34,8 @@ TEST(WindowPicture, ImageShowsStrokesAndValuesInTheFramesShape) {
     drawing.AddLine({{4747.5F, 0}, {4747.5F, 7935}});
     drawing.AddString({{200, 2000}, "名称"});  // label names are not painted
     MCPicture picture(notice);
-    const QTemporaryDir temporary;
-    const std::filesystem::path file = temporary.filePath(QStringLiteral("a.MC")).toStdString();
+    const test::TempFolder folder;
+    const std::filesystem::path file = folder / "a.MC";
     drawing.SavePicture(file);
     picture.OpenFileMC(file);
 
@@ -57,8 +57,8 @@ TEST(WindowPicture, ImageShowsStrokesAndValuesInTheFramesShape) {
 TEST(WindowPicture, PdfIsOnePageWithItsFontsEmbedded) {
     RecordingNotice notice;
     const MCPicture picture(notice);
-    const QTemporaryDir temporary;
-    const std::filesystem::path file = temporary.filePath(QStringLiteral("窗.pdf")).toStdString();
+    const test::TempFolder folder;
+    const std::filesystem::path file = folder / "窗.pdf";
     const WindowLabel labels[] = {{1000, 4000, "1500"}};
     WriteWindowPicturePdf(file, "推拉窗", picture, labels);
     const std::string bytes = ReadFile(file);
