@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,10 +13,13 @@ namespace kalvane {
 /// it was read from change.
 class Cursor {
   public:
-    Cursor(std::vector<std::string> names, std::vector<FieldValue> cells);
+    using Names = std::shared_ptr<const std::vector<std::string>>;
+
+    /// `cells` holds the rows one after the other, each as long as `names`.
+    Cursor(Names names, std::vector<FieldValue> cells);
 
     int RecordCount() const { return rowCount_; }
-    int FieldCount() const { return static_cast<int>(names_.size()); }
+    int FieldCount() const { return static_cast<int>(names_->size()); }
     const std::string& FieldName(int index) const;
 
     bool Eof() const { return row_ >= rowCount_; }
@@ -31,7 +35,7 @@ class Cursor {
     int FieldIndex(std::string_view name) const;
 
   private:
-    std::vector<std::string> names_;
+    Names names_;
     std::vector<FieldValue> cells_;  // row after row
     int rowCount_ = 0;
     int row_ = 0;

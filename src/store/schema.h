@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <span>
 #include <string_view>
 
@@ -17,7 +18,9 @@ struct Column {
 struct Table {
     std::string_view name;
     std::span<const Column> columns;
-    std::string_view indexColumn;  ///< column that lookups go by, or empty; row order never depends on it
+    /// Columns that lookups go by, empty where unused. They only make lookups quick: the order of rows
+    /// never depends on them.
+    std::array<std::string_view, 2> indexedColumns{};
 };
 
 /// The kinds of store file.

@@ -1,5 +1,7 @@
 #include "ui/guard.h"
 
+#include <QPointer>
+#include <QWidget>
 #include <exception>
 
 #include "ui/dialogs.h"
@@ -8,11 +10,12 @@
 namespace kalvane {
 
 bool Guarded(QWidget* parent, const std::function<void()>& handler, const QString& title) {
+    const QPointer<QWidget> screen(parent);
     try {
         handler();
         return true;
     } catch (const std::exception& failure) {
-        UseDialogs().Message(parent, QString::fromUtf8(failure.what()), title, NoticeIcon::Error);
+        UseDialogs().Message(screen, ToQt(failure.what()), title, NoticeIcon::Error);
         return false;
     }
 }

@@ -2,6 +2,8 @@
 
 #include <QHeaderView>
 
+#include "platform/assertion.h"
+
 namespace kalvane {
 namespace {
 constexpr int kTagRole = Qt::UserRole;
@@ -13,6 +15,7 @@ ReportList::ReportList(const QString& name, const QStringList& columns, QWidget*
     setObjectName(name);
     setColumnCount(static_cast<int>(columns.size()));
     setHeaderLabels(columns);
+    header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
@@ -27,8 +30,8 @@ ReportList::ReportList(const QString& name, const QStringList& columns, QWidget*
 int ReportList::AddRow(const QStringList& texts, const QString& tag) {
     auto* item = new QTreeWidgetItem(this, texts);
     item->setData(0, kTagRole, tag);
-    FitColumns();
-    return indexOfTopLevelItem(item);
+    FitColumnsSoon();
+    return RowCount() - 1;
 }
 
 QStringList ReportList::Row(int row) const {
@@ -38,11 +41,11 @@ QStringList ReportList::Row(int row) const {
 }
 
 QString ReportList::Text(int row, int column) const {
-    return topLevelItem(row)->text(column);
+    return Item(row)->text(column);
 }
 
 QString ReportList::Tag(int row) const {
-    return topLevelItem(row)->data(0, kTagRole).toString();
+    return Item(row)->data(0, kTagRole).toString();
 }
 
 void ReportList::SetRow(int row, const QStringList& texts) {
@@ -50,12 +53,14 @@ void ReportList::SetRow(int row, const QStringList& texts) {
 }
 
 void ReportList::SetText(int row, int column, const QString& text) {
-    topLevelItem(row)->setText(column, text);
-    FitColumns();
+    Item(row)->setText(column, text);
+    FitColumnsSoon();
 }
 
 void ReportList::RemoveRow(int row) {
-    delete takeTopLevelItem(row);
+    const bool wasSelected = SelectedRow() == row;
+    delete Item(row);
+    if (wasSelected && RowCount() > 0) SelectRow(std::min(row, RowCount() - 1));
 }
 
 void ReportList::Clear() {
@@ -68,14 +73,33 @@ int ReportList::SelectedRow() const {
 }
 
 void ReportList::SelectRow(int row) {
-    QTreeWidgetItem* item = topLevelItem(row);
+    QTreeWidgetItem* item = Item(row);
     setCurrentItem(item);
+    item->setSelected(true);
     scrollToItem(item);
 }
 
 void ReportList::showEvent(QShowEvent* event) {
     QTreeWidget::showEvent(event);
     FitColumns();
+}
+
+QTreeWidgetItem* ReportList::Item(int row) const {
+    QTreeWidgetItem* item = topLevelItem(row);
+    KALVANE_ASSERT(item != nullptr);
+    return item;
+}
+
+void ReportList::FitColumnsSoon() {
+    if (fitPending_ || userSized_ || !isVisible()) return;
+    fitPending_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            fitPending_ = false;
+            FitColumns();
+        },
+        Qt::QueuedConnection);
 }
 
 void ReportList::FitColumns() {

@@ -6,7 +6,8 @@
 namespace kalvane {
 
 /// A list in report view: text columns with headings, one selected row, rows addressed by index from 0.
-/// Column widths fit their content until the operator changes one.
+/// Column widths fit their content until the operator changes one. A row index that does not exist is a
+/// programming error. For a change of selection connect itemSelectionChanged.
 class ReportList : public QTreeWidget {
     Q_OBJECT
 
@@ -14,12 +15,14 @@ class ReportList : public QTreeWidget {
     ReportList(const QString& name, const QStringList& columns, QWidget* parent = nullptr);
 
     int RowCount() const { return topLevelItemCount(); }
+    /// Adds a row at the end and returns its index. `tag` is a text kept with the row and not shown.
     int AddRow(const QStringList& texts, const QString& tag = {});
     QStringList Row(int row) const;
     QString Text(int row, int column) const;
     QString Tag(int row) const;
     void SetRow(int row, const QStringList& texts);
     void SetText(int row, int column, const QString& text);
+    /// A removed row that was selected hands the selection to the row after it, or else before it.
     void RemoveRow(int row);
     void Clear();
 
@@ -31,9 +34,13 @@ class ReportList : public QTreeWidget {
     void showEvent(QShowEvent* event) override;
 
   private:
+    QTreeWidgetItem* Item(int row) const;
+    void FitColumnsSoon();
     void FitColumns();
-    bool userSized_ = false;
+
+    bool fitPending_ = false;  ///< one fit serves all rows added by one handler
     bool fitting_ = false;
+    bool userSized_ = false;
 };
 
 }  // namespace kalvane

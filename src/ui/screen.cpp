@@ -3,11 +3,8 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
-#include "app/app_state.h"
-#include "platform/error.h"
-#include "platform/settings_store.h"
 #include "ui/main_frame.h"
-#include "ui/text.h"
+#include "ui/screen_memory.h"
 
 namespace kalvane {
 
@@ -23,38 +20,39 @@ QWidget* Screen::Frame() {
     return qobject_cast<QMdiSubWindow*>(holder) != nullptr ? holder : this;
 }
 
+QString Screen::GeometryKey() const {
+    return objectName() + QStringLiteral(".geometry");
+}
+
 void Screen::ShowModeless() {
     setAttribute(Qt::WA_DeleteOnClose);
     if (QMdiArea* area = MainFrame()) {
         QMdiSubWindow* child = area->addSubWindow(this);
         child->setAttribute(Qt::WA_DeleteOnClose);
+        child->setWindowIcon(windowIcon());
     }
     show();
-    raise();
+    Frame()->raise();
 }
 
 void Screen::done(int result) {
+    QWidget* frame = Frame();
     QDialog::done(result);
-    if (Frame() != this) Frame()->close();
+    if (frame != this) frame->close();
 }
 
 void Screen::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    if (restored_ || App().settings == nullptr) return;
+    if (restored_) return;
     restored_ = true;
-    const std::string saved =
-        App().settings->Read("Kalvane", kSectionScreens, FromQt(objectName()) + ".geometry", "");
-    if (!saved.empty()) Frame()->restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(saved)));
+    const QString saved = Remembered(GeometryKey(), {});
+    if (!saved.isEmpty()) Frame()->restoreGeometry(QByteArray::fromBase64(saved.toLatin1()));
 }
 
 void Screen::hideEvent(QHideEvent* event) {
     QDialog::hideEvent(event);
-    if (!restored_ || App().settings == nullptr) return;
-    try {
-        App().settings->Save("Kalvane", kSectionScreens, FromQt(objectName()) + ".geometry",
-                             Frame()->saveGeometry().toBase64().toStdString());
-    } catch (const FileError&) {
-        // A window that opens at its default place next time is no reason to trouble the operator.
+    if (restored_) {
+        Remember(GeometryKey(), QString::fromLatin1(Frame()->saveGeometry().toBase64()));
     }
 }
 

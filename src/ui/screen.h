@@ -4,24 +4,28 @@
 
 namespace kalvane {
 
-/// Base of every frm* screen: carries its name, remembers its geometry, and closes on Esc as well when it
-/// is a child of the main screen's frame.
+/// Base of every frm* screen: carries its name, remembers its size and place, and closes on Esc as well
+/// when it is a child of the main screen's frame. Show it with exec() when it is modal.
 class Screen : public QDialog {
     Q_OBJECT
 
   public:
     Screen(const QString& name, const QString& title, QWidget* parent);
 
-    /// Shows without waiting: inside the main screen's frame when there is one, else as a window.
+    /// Shows without waiting: inside the main screen's frame when there is one, else as a window. The
+    /// screen must have been made with new; it deletes itself when it is closed.
     void ShowModeless();
 
-  protected:
     void done(int result) override;
+
+  protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
   private:
+    /// The widget whose geometry is the screen's: itself, or the child window it stands in.
     QWidget* Frame();
+    QString GeometryKey() const;
     bool restored_ = false;
 };
 

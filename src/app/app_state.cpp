@@ -1,0 +1,24 @@
+#include "app/app_state.h"
+
+#include "platform/error.h"
+
+namespace kalvane {
+
+Connection& AppState::Main() {
+    if (mainConnection == nullptr)
+        throw StoreError("‘材料’数据库没有打开。请检查启动文件夹中的 cl.mdb 后重新启动程序。");
+    return *mainConnection;
+}
+
+Connection& AppState::Stock() {
+    if (stockConnection == nullptr)
+        throw StoreError("仓库数据库没有打开。请检查启动文件夹中的 CangKu.mdb 后重新启动程序。");
+    return *stockConnection;
+}
+
+AppState& App() {
+    static AppState state;
+    return state;
+}
+
+}  // namespace kalvane

@@ -1,0 +1,17 @@
+#include "app/clear_stock.h"
+
+#include "store/command_scope.h"
+
+namespace kalvane {
+
+void ClearStock(Connection& stock) {
+    InCommand(stock, [&stock] {
+        stock.Execute("Delete * from 入库单");
+        stock.Execute("Delete * from 出库单");
+        stock.Execute("Delete * from 入库单子表");
+        stock.Execute("Delete * from 出库单子表");
+        stock.Execute("Delete * from 库存表");
+    });
+}
+
+}  // namespace kalvane

@@ -1,0 +1,17 @@
+#include "app/help_text.h"
+
+#include "platform/code_page.h"
+#include "platform/error.h"
+#include "platform/files.h"
+
+namespace kalvane {
+
+std::string HelpText(const std::filesystem::path& folder) {
+    try {
+        return DecodeFileText(ReadFile(folder / "help.txt"));
+    } catch (const FileError&) {
+        return "无帮助文件！";
+    }
+}
+
+}  // namespace kalvane

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+#include "app/app_state.h"
+#include "platform/notice.h"
+
+namespace kalvane {
+
+/// Reads the output file type and the wind check's model. `windCheckDefault` holds when the model was never
+/// saved: it differs between the start of the program (1) and the settings screen (0). A stored text that is
+/// no 16-bit number counts as never saved. Needs `state.settings`.
+void ReadOutputSettings(AppState& state, std::int16_t windCheckDefault);
+
+/// Reads the optimiser's options. A stored number that does not fit leaves the defaults and is told.
+void ReadOptimiserOptions(AppState& state, Notice& notice);
+
+/// Open the stores of the start-up folder. A failure is told, and the program runs on without the store:
+/// AppState::Main and Stock then throw.
+void OpenMainStore(AppState& state, Notice& notice);
+void OpenStockStore(AppState& state, Notice& notice);
+
+}  // namespace kalvane

@@ -1,0 +1,133 @@
+#include "drawing/cpictire.h"
+
+#include <utility>
+
+#include "drawing/box_mapping.h"
+#include "drawing/drawing_library.h"
+#include "drawing/mc_file.h"
+#include "drawing/shapes.h"
+#include "platform/code_page.h"
+#include "platform/files.h"
+#include "platform/notice.h"
+
+namespace kalvane {
+
+void CPictire::TellFull() const {
+    notice_->Show("数组超出范围,请与程序员联系", "#Error", NoticeIcon::None);
+}
+
+bool CPictire::PointInBox(Point point, Point& cornerA, Point& cornerB) {
+    if (cornerA.x > cornerB.x) std::swap(cornerA.x, cornerB.x);
+    if (cornerA.y > cornerB.y) std::swap(cornerA.y, cornerB.y);
+    return cornerA.x <= point.x && point.x <= cornerB.x && cornerA.y <= point.y && point.y <= cornerB.y;
+}
+
+void CPictire::DelLinesIn(Point& cornerA, Point& cornerB) {
+    lines_.DeleteWhere([&](const LineItem& item) {
+        return PointInBox(item.p1, cornerA, cornerB) || PointInBox(item.p2, cornerA, cornerB);
+    });
+}
+
+void CPictire::DelRecsIn(Point& cornerA, Point& cornerB) {
+    rectangles_.DeleteWhere([&](const RectangleItem& item) {
+        return PointInBox(item.p1, cornerA, cornerB) || PointInBox(item.p2, cornerA, cornerB);
+    });
+}
+
+void CPictire::DelDimsIn(Point& cornerA, Point& cornerB) {
+    dimensions_.DeleteWhere([&](const DimensionItem& item) {
+        return PointInBox(item.p1, cornerA, cornerB) || PointInBox(item.p2, cornerA, cornerB) ||
+               PointInBox(item.p3, cornerA, cornerB);
+    });
+}
+
+void CPictire::DelDirsIn(Point& cornerA, Point& cornerB) {
+    arrows_.DeleteWhere([&](const ArrowItem& item) {
+        return PointInBox(item.p1, cornerA, cornerB) || PointInBox(item.p2, cornerA, cornerB);
+    });
+}
+
+void CPictire::DelStringsIn(Point& cornerA, Point& cornerB) {
+    strings_.DeleteWhere([&](const TextItem& item) { return PointInBox(item.at, cornerA, cornerB); });
+}
+
+void CPictire::DelArcsIn(Point& cornerA, Point& cornerB) {
+    arcs_.DeleteWhere([&](const ArcItem& item) {
+        return PointInBox(item.p1, cornerA, cornerB) || PointInBox(item.p2, cornerA, cornerB) ||
+               PointInBox(item.p3, cornerA, cornerB);
+    });
+}
+
+void CPictire::ClearData() {
+    lines_.Clear();
+    rectangles_.Clear();
+    dimensions_.Clear();
+    arrows_.Clear();
+    strings_.Clear();
+    arcs_.Clear();
+}
+
+void CPictire::GetStrings(std::span<float> xs, std::span<float> ys, std::span<std::string> texts) const {
+    const auto count = static_cast<std::size_t>(strings_.Count());
+    KALVANE_ASSERT(xs.size() >= count && ys.size() >= count && texts.size() >= count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const TextItem& item = strings_[static_cast<int>(i)];
+        xs[i] = item.at.x;
+        ys[i] = item.at.y;
+        texts[i] = item.text;
+    }
+}
+
+void CPictire::SetXY(float xScale, float yScale) {
+    xScale_ = xScale;
+    yScale_ = yScale;
+}
+
+void CPictire::SaveFileEx(Connection& connection, std::string_view number, std::string_view) const {
+    SavePrimitives(connection, number, *this);
+}
+
+void CPictire::OpenFileEX(Connection& connection, std::string_view number) {
+    LoadPrimitives(connection, number, *this);
+}
+
+void CPictire::SavePicture(const std::filesystem::path& path) const {
+    WriteFileAtomically(path, ToGbk(McText(*this)));
+}
+
+void CPictire::Open_File(const std::filesystem::path& path) {
+    const std::string text = DecodeFileText(ReadFile(path));
+    lines_.Clear();
+    rectangles_.Clear();
+    dimensions_.Clear();
+    arrows_.Clear();
+    strings_.Clear();
+    ReadMcText(text, *this);
+}
+
+void CPictire::PrintPic(PaintTarget& target, const Box& source, const Box& destination) const {
+    Paint(target, source, destination, true);
+}
+
+void CPictire::OutMCNoStr(PaintTarget& target, const Box& source, const Box& destination) const {
+    Paint(target, source, destination, false);
+}
+
+void CPictire::Paint(PaintTarget& target, const Box& source, const Box& destination, bool withTexts) const {
+    const BoxMapping map(source, destination);
+    for (const LineItem& item : lines_) DrawStroke(target, map(item.p1), map(item.p2));
+    for (const RectangleItem& item : rectangles_) DrawRectangle(target, map(item.p1), map(item.p2));
+    for (const ArrowItem& item : arrows_) DrawArrow(target, map(item.p1), map(item.p2));
+    for (const DimensionItem& item : dimensions_) {
+        DrawDim(target, map(item.p1), map(item.p2), map(item.p3));
+    }
+    if (withTexts) {
+        for (const TextItem& item : strings_) {
+            const Point at = map(item.at);
+            Draw_String(target, at.x, at.y, item.text);
+        }
+    }
+    for (const ArcItem& item : arcs_) DrawArc(target, map(item.p1), map(item.p2), map(item.p3));
+}
+
+}  // namespace kalvane

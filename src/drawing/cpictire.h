@@ -1,0 +1,117 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "drawing/paint_target.h"
+#include "drawing/primitive_list.h"
+#include "drawing/primitives.h"
+
+namespace kalvane {
+
+class Connection;
+class Notice;
+
+/// One drawing: up to 361 items of each kind, in drawing units. Copies are independent, so a screen that
+/// repaints keeps one of its own.
+class CPictire {
+  public:
+    /// `notice` must outlive the drawing and its copies.
+    explicit CPictire(Notice& notice) : notice_(&notice) {}
+
+    // Adds one item. When the kind is full the operator is told, the item is dropped and work goes on.
+    void AddLine(const LineItem& item) { Add(lines_, item); }
+    void AddRec(const RectangleItem& item) { Add(rectangles_, item); }
+    void AddDim(const DimensionItem& item) { Add(dimensions_, item); }
+    void AddDir(const ArrowItem& item) { Add(arrows_, item); }
+    void AddString(const TextItem& item) { Add(strings_, item); }
+    void AddArc(const ArcItem& item) { Add(arcs_, item); }
+
+    // Takes one item out; the last of its kind moves to its place.
+    void DelLine(int index) { lines_.DeleteAt(index); }
+    void DelRec(int index) { rectangles_.DeleteAt(index); }
+    void DelDim(int index) { dimensions_.DeleteAt(index); }
+    void DelDir(int index) { arrows_.DeleteAt(index); }
+    void DelString(int index) { strings_.DeleteAt(index); }
+    void DelArc(int index) { arcs_.DeleteAt(index); }
+
+    // Takes out the items of a kind of which any stored point is in the box. The two corners come back
+    // ordered, as PointInBox leaves them.
+    void DelLinesIn(Point& cornerA, Point& cornerB);
+    void DelRecsIn(Point& cornerA, Point& cornerB);
+    void DelDimsIn(Point& cornerA, Point& cornerB);
+    void DelDirsIn(Point& cornerA, Point& cornerB);
+    void DelStringsIn(Point& cornerA, Point& cornerB);
+    void DelArcsIn(Point& cornerA, Point& cornerB);
+
+    /// True when the point is in the box, edges included. Orders the corners first: cornerA takes the
+    /// smaller x and y, cornerB the greater.
+    static bool PointInBox(Point point, Point& cornerA, Point& cornerB);
+
+    /// Empties all six kinds.
+    void ClearData();
+
+    const PrimitiveList<LineItem>& Lines() const { return lines_; }
+    const PrimitiveList<RectangleItem>& Rectangles() const { return rectangles_; }
+    const PrimitiveList<DimensionItem>& Dimensions() const { return dimensions_; }
+    const PrimitiveList<ArrowItem>& Arrows() const { return arrows_; }
+    const PrimitiveList<TextItem>& Strings() const { return strings_; }
+    const PrimitiveList<ArcItem>& Arcs() const { return arcs_; }
+
+    /// Last index of the text items: -1 when there is none.
+    std::int16_t GetStringCount() const { return strings_.LastIndex(); }
+
+    /// Copies positions and texts of the text items to indices 0 to GetStringCount() of the arrays, which
+    /// must be that large.
+    void GetStrings(std::span<float> xs, std::span<float> ys, std::span<std::string> texts) const;
+
+    /// Keeps two scale factors. No output depends on them.
+    void SetXY(float xScale, float yScale);
+
+    /// Replaces what the library holds under that number. The index row in 图 is the caller's, so the name is
+    /// not looked at. Throws StoreError when a statement is refused, with what was executed before it kept.
+    void SaveFileEx(Connection& connection, std::string_view number, std::string_view name) const;
+
+    /// Adds the library's rows of that number to what the drawing holds; a number without rows adds nothing.
+    /// Throws StoreError, and NumericError for a coordinate that is Null.
+    void OpenFileEX(Connection& connection, std::string_view number);
+
+    /// Writes a drawing file; see mc_file.h. Arcs are not in it. Throws FileError, also for a text that GBK
+    /// does not hold; an existing file then stays as it was.
+    void SavePicture(const std::filesystem::path& path) const;
+
+    /// Reads a drawing file in place of all items but the arcs, which stay. Throws FileError with nothing
+    /// changed when it cannot be read, and NumericError as ReadMcText does.
+    void Open_File(const std::filesystem::path& path);
+
+    /// Paints all items with the source box stretched over the destination box: lines, rectangles, arrows,
+    /// dimension marks, texts, arcs, in this order. Throws NumericError for a source box without width or
+    /// height.
+    void PrintPic(PaintTarget& target, const Box& source, const Box& destination) const;
+
+    /// As PrintPic without the texts: for pictures that carry values in their place.
+    void OutMCNoStr(PaintTarget& target, const Box& source, const Box& destination) const;
+
+  private:
+    template <typename Item>
+    void Add(PrimitiveList<Item>& list, const Item& item) {
+        if (!list.Add(item)) TellFull();
+    }
+    void TellFull() const;
+    void Paint(PaintTarget& target, const Box& source, const Box& destination, bool withTexts) const;
+
+    PrimitiveList<LineItem> lines_;
+    PrimitiveList<RectangleItem> rectangles_;
+    PrimitiveList<DimensionItem> dimensions_;
+    PrimitiveList<ArrowItem> arrows_;
+    PrimitiveList<TextItem> strings_;
+    PrimitiveList<ArcItem> arcs_;
+    float xScale_ = 1;
+    float yScale_ = 1;
+    Notice* notice_;
+};
+
+}  // namespace kalvane

@@ -1,0 +1,64 @@
+#include "store/column_conversion.h"
+
+#include "numeric/number.h"
+#include "numeric/text.h"
+#include "platform/error.h"
+
+namespace kalvane {
+namespace {
+
+std::string Shown(const EngineValue& value) {
+    if (const auto* whole = std::get_if<std::int64_t>(&value)) return ShortText(*whole);
+    if (const auto* real = std::get_if<double>(&value)) return ShortText(*real);
+    if (const auto* text = std::get_if<std::string_view>(&value)) return std::string(*text);
+    return "Null";
+}
+
+[[noreturn]] void Refuse(const WrittenValue& target, const EngineValue& value, const std::string& reason) {
+    throw StoreError("“" + std::string(target.table->name) + "”的“" + std::string(target.column->name) +
+                     "”不能写入“" + Shown(value) + "”：" + reason + "。");
+}
+
+double AsNumber(const WrittenValue& target, const EngineValue& value) {
+    if (const auto* whole = std::get_if<std::int64_t>(&value)) return static_cast<double>(*whole);
+    if (const auto* real = std::get_if<double>(&value)) return *real;
+    const auto text = std::get<std::string_view>(value);
+    if (!IsNumeric(text)) Refuse(target, value, "不是数字");
+    return ParseNumber(text);
+}
+
+}  // namespace
+
+EngineValue ConvertForColumn(const WrittenValue& target, const EngineValue& value, std::string& scratch) {
+    if (std::holds_alternative<std::monostate>(value)) return value;
+    try {
+        switch (target.column->type) {
+            case ColumnType::Int16:
+                return std::int64_t{RoundToInt16(AsNumber(target, value))};
+            case ColumnType::Int32:
+                return std::int64_t{RoundToInt32(AsNumber(target, value))};
+            case ColumnType::Float32:
+                return static_cast<double>(NarrowToFloat(AsNumber(target, value)));
+            case ColumnType::Money:
+                return RoundTo4Decimals(AsNumber(target, value));
+            case ColumnType::Text:
+            case ColumnType::Memo:
+            case ColumnType::DateTime:
+                break;
+        }
+    } catch (const NumericError&) {
+        Refuse(target, value, "数值超出范围");
+    }
+    if (!std::holds_alternative<std::string_view>(value)) {
+        scratch = Shown(value);
+        return ConvertForColumn(target, std::string_view(scratch), scratch);
+    }
+    const auto text = std::get<std::string_view>(value);
+    if (target.column->type == ColumnType::Text &&
+        CharCount(text) > static_cast<std::size_t>(target.column->width)) {
+        Refuse(target, value, "最多 " + std::to_string(target.column->width) + " 个字");
+    }
+    return value;
+}
+
+}  // namespace kalvane

@@ -1,0 +1,49 @@
+#include "store/engine_error.h"
+
+#include <sqlite3.h>
+
+#include <string_view>
+
+namespace kalvane {
+namespace {
+
+/// The part of an engine message behind a fixed beginning.
+bool TakeAfter(std::string_view message, std::string_view beginning, std::string& rest) {
+    if (message.substr(0, beginning.size()) != beginning) return false;
+    rest = message.substr(beginning.size());
+    return true;
+}
+
+std::string StatementErrorText(std::string_view message) {
+    std::string rest;
+    if (TakeAfter(message, "no such column: ", rest)) {
+        return "“" + rest + "”不是列名也不是数字，数字栏里只能填数字。";
+    }
+    if (TakeAfter(message, "near ", rest)) return "语句有语法错误：" + rest + "。";
+    return "数据库拒绝执行语句：" + std::string(message) + "。";
+}
+
+}  // namespace
+
+std::string EngineErrorText(sqlite3* database) {
+    switch (sqlite3_errcode(database)) {
+        case SQLITE_FULL:
+            return "磁盘已满，数据没有写入。请清理磁盘后再试。";
+        case SQLITE_READONLY:
+            return "数据库文件是只读的，数据没有写入。请检查文件和文件夹的权限。";
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+            return "数据库正被另一个程序使用，请稍后再试。";
+        case SQLITE_CORRUPT:
+        case SQLITE_NOTADB:
+            return "数据库文件已损坏。";
+        case SQLITE_IOERR:
+            return "磁盘读写失败，数据没有写入。";
+        case SQLITE_CANTOPEN:
+            return "数据库文件不能打开。请检查文件和文件夹的权限。";
+        default:
+            return StatementErrorText(sqlite3_errmsg(database));
+    }
+}
+
+}  // namespace kalvane

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+struct sqlite3;
+
+namespace kalvane {
+
+/// Text for the operator of the engine's last failure on `database`.
+std::string EngineErrorText(sqlite3* database);
+
+/// "KLVN", kept in each store file.
+inline constexpr int kApplicationId = 0x4B4C564E;
+
+}  // namespace kalvane

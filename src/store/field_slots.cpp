@@ -1,0 +1,10 @@
+#include "store/field_slots.h"
+
+namespace kalvane {
+
+FieldSlots& SharedFieldSlots() {
+    static FieldSlots slots;
+    return slots;
+}
+
+}  // namespace kalvane

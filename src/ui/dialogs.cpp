@@ -1,0 +1,154 @@
+#include "ui/dialogs.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+
+#include "app/app_state.h"
+#include "ui/file_filter.h"
+#include "ui/screen_memory.h"
+#include "ui/text.h"
+
+namespace kalvane {
+namespace {
+
+QMessageBox::Icon ToToolkitIcon(NoticeIcon icon) {
+    switch (icon) {
+        case NoticeIcon::Information:
+            return QMessageBox::Information;
+        case NoticeIcon::Warning:
+            return QMessageBox::Warning;
+        case NoticeIcon::Error:
+            return QMessageBox::Critical;
+        case NoticeIcon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QString ButtonCaption(QMessageBox::StandardButton button) {
+    switch (button) {
+        case QMessageBox::Yes:
+            return QStringLiteral("是");
+        case QMessageBox::No:
+            return QStringLiteral("否");
+        case QMessageBox::Cancel:
+            return QStringLiteral("取消");
+        default:
+            return QStringLiteral("确定");
+    }
+}
+
+/// Dialogs over the toolkit's own.
+class RealDialogs final : public Dialogs {
+  public:
+    void Message(QWidget* parent, const QString& text, const QString& title, NoticeIcon icon) override {
+        ShowBox(parent, text, title, ToToolkitIcon(icon), QMessageBox::Ok);
+    }
+
+    bool AskYesNo(QWidget* parent, const QString& text, const QString& title) override {
+        return ShowBox(parent, text, title, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No) ==
+               QMessageBox::Yes;
+    }
+
+    bool AskOkCancel(QWidget* parent, const QString& text, const QString& title) override {
+        return ShowBox(parent, text, title, QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel) ==
+               QMessageBox::Ok;
+    }
+
+    std::optional<QString> InputText(QWidget* parent, const QString& title, const QString& prompt,
+                                     const QString& value) override {
+        QInputDialog dialog(Over(parent));
+        dialog.setWindowTitle(Titled(title));
+        dialog.setLabelText(prompt);
+        dialog.setTextValue(value);
+        dialog.setOkButtonText(QStringLiteral("确定"));
+        dialog.setCancelButtonText(QStringLiteral("取消"));
+        if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+        return dialog.textValue();
+    }
+
+    QString OpenFileName(QWidget* parent, const QString& purpose, const QString& filter) override {
+        QFileDialog dialog(Over(parent), QStringLiteral("打开"), Folder(purpose), ToToolkitFilter(filter));
+        dialog.setFileMode(QFileDialog::ExistingFile);
+        dialog.setLabelText(QFileDialog::Accept, QStringLiteral("打开"));
+        return Choose(dialog, purpose);
+    }
+
+    QString SaveFileName(QWidget* parent, const QString& purpose, const QString& filter,
+                         const QString& defaultSuffix, bool askOverwrite) override {
+        QFileDialog dialog(Over(parent), QStringLiteral("另存为"), Folder(purpose), ToToolkitFilter(filter));
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setFileMode(QFileDialog::AnyFile);
+        dialog.setDefaultSuffix(defaultSuffix);
+        dialog.setLabelText(QFileDialog::Accept, QStringLiteral("保存"));
+        // The question is asked below, in our own words.
+        dialog.setOption(QFileDialog::DontConfirmOverwrite);
+        for (;;) {
+            const QString file = Choose(dialog, purpose);
+            if (file.isEmpty() || !askOverwrite || !QFileInfo::exists(file)) return file;
+            const QString question =
+                QStringLiteral("文件“%1”已经存在，要替换它吗？").arg(QFileInfo(file).fileName());
+            if (AskYesNo(parent, question, QStringLiteral("提示"))) return file;
+        }
+    }
+
+  private:
+    static QWidget* Over(QWidget* parent) {
+        return parent != nullptr ? parent : QApplication::activeWindow();
+    }
+
+    static QString Titled(const QString& title) {
+        return title.isEmpty() ? QApplication::applicationName() : title;
+    }
+
+    static int ShowBox(QWidget* parent, const QString& text, const QString& title, QMessageBox::Icon icon,
+                       QMessageBox::StandardButtons buttons) {
+        QMessageBox box(icon, Titled(title), text, buttons, Over(parent));
+        box.setTextFormat(Qt::PlainText);  // texts may hold what the operator typed
+        for (QAbstractButton* button : box.buttons()) {
+            button->setText(ButtonCaption(box.standardButton(button)));
+        }
+        return box.exec();
+    }
+
+    static QString FolderKey(const QString& purpose) { return purpose + QStringLiteral(".folder"); }
+
+    static QString Folder(const QString& purpose) {
+        const QString start = ToQt(App().folder.string());
+        const QString folder = Remembered(FolderKey(purpose), start);
+        return QFileInfo(folder).isDir() ? folder : start;
+    }
+
+    static QString Choose(QFileDialog& dialog, const QString& purpose) {
+        dialog.setLabelText(QFileDialog::Reject, QStringLiteral("取消"));
+        dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("查找范围："));
+        dialog.setLabelText(QFileDialog::FileName, QStringLiteral("文件名："));
+        dialog.setLabelText(QFileDialog::FileType, QStringLiteral("文件类型："));
+        if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+        const QString file = dialog.selectedFiles().front();
+        Remember(FolderKey(purpose), QFileInfo(file).absolutePath());
+        return file;
+    }
+};
+
+Dialogs*& Replacement() {
+    static Dialogs* replacement = nullptr;
+    return replacement;
+}
+
+}  // namespace
+
+Dialogs& UseDialogs() {
+    static RealDialogs real;
+    return Replacement() != nullptr ? *Replacement() : real;
+}
+
+void SetDialogs(Dialogs* dialogs) {
+    Replacement() = dialogs;
+}
+
+}  // namespace kalvane

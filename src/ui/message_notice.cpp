@@ -1,0 +1,12 @@
+#include "ui/message_notice.h"
+
+#include "ui/dialogs.h"
+#include "ui/text.h"
+
+namespace kalvane {
+
+void MessageNotice::Show(const std::string& text, const std::string& title, NoticeIcon icon) {
+    UseDialogs().Message(parent_, ToQt(text), ToQt(title), icon);
+}
+
+}  // namespace kalvane

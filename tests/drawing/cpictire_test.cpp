@@ -1,0 +1,99 @@
+#include "drawing/cpictire.h"
+
+#include <gtest/gtest.h>
+
+#include "drawing/mcpicture.h"
+#include "drawing/recorders.h"
+
+namespace kalvane {
+namespace {
+
+class CPictireTest : public ::testing::Test {
+  protected:
+    RecordingNotice notice_;
+    CPictire picture_{notice_};
+};
+
+TEST_F(CPictireTest, ThreeHundredAndSixtyTwoIsOneTooMany) {
+    for (int i = 0; i < 361; ++i) picture_.AddLine({});
+    EXPECT_TRUE(notice_.shown.empty());
+    picture_.AddLine({{1, 1}, {2, 2}});
+    EXPECT_EQ(notice_.shown, std::vector<std::string>{"#Error: 数组超出范围,请与程序员联系"});
+    EXPECT_EQ(picture_.Lines().LastIndex(), 360);
+    picture_.AddArc({});  // each kind has room of its own
+    EXPECT_EQ(picture_.Arcs().Count(), 1);
+    EXPECT_EQ(notice_.shown.size(), 1U);
+}
+
+TEST_F(CPictireTest, TheLastItemTakesThePlaceOfADeletedOne) {
+    for (float i = 0; i < 3; ++i) picture_.AddString({{i, 0}, std::string(1, static_cast<char>('a' + i))});
+    picture_.DelString(0);
+    EXPECT_EQ(Describe(picture_), "String 2,0 c; String 1,0 b");
+    picture_.DelString(1);
+    EXPECT_EQ(Describe(picture_), "String 2,0 c");
+    picture_.DelString(0);
+    EXPECT_EQ(picture_.GetStringCount(), -1);
+}
+
+TEST_F(CPictireTest, PointInBoxCountsEdgesAndOrdersTheCorners) {
+    Point a{30, 10};
+    Point b{10, 20};
+    EXPECT_TRUE(CPictire::PointInBox({10, 20}, a, b));
+    EXPECT_EQ(a, (Point{10, 10}));
+    EXPECT_EQ(b, (Point{30, 20}));
+    EXPECT_TRUE(CPictire::PointInBox({30, 10}, a, b));
+    EXPECT_FALSE(CPictire::PointInBox({30.5F, 15}, a, b));
+    EXPECT_FALSE(CPictire::PointInBox({20, 9}, a, b));
+}
+
+TEST_F(CPictireTest, ABoxTakesItemsWithAStoredPointInside) {
+    const Point in{15, 15};
+    const Point out{100, 100};
+    const Point other{0, 15};
+    picture_.AddLine({out, in});
+    picture_.AddLine({other, {100, 15}});  // crosses the box
+    picture_.AddLine({in, in});            // moves to the place of the first and is tested there
+    picture_.AddRec({{0, 0}, {100, 15}});  // an edge in the box, no stored corner
+    picture_.AddRec({in, out});
+    picture_.AddDir({out, in});
+    picture_.AddDim({out, out, in});
+    picture_.AddArc({out, in, out});
+    picture_.AddString({in, "B"});
+    picture_.AddString({out, "H"});
+    Point a{20, 20};
+    Point b{10, 10};
+    picture_.DelLinesIn(a, b);
+    picture_.DelRecsIn(a, b);
+    picture_.DelDimsIn(a, b);
+    picture_.DelDirsIn(a, b);
+    picture_.DelStringsIn(a, b);
+    picture_.DelArcsIn(a, b);
+    EXPECT_EQ(Describe(picture_), "Line 0,15 100,15; Rec 0,0 100,15; String 100,100 H");
+}
+
+TEST_F(CPictireTest, HandsOutTheLabels) {
+    picture_.AddString({{1, 2}, "B"});
+    picture_.AddString({{3, 4}, "h1"});
+    float xs[3] = {-1, -1, -1};
+    float ys[3] = {-1, -1, -1};
+    std::string texts[3];
+    picture_.GetStrings(xs, ys, texts);
+    EXPECT_EQ(xs[1], 3);
+    EXPECT_EQ(ys[1], 4);
+    EXPECT_EQ(texts[0] + texts[1], "Bh1");
+    EXPECT_EQ(xs[2], -1);
+    picture_.ClearData();
+    EXPECT_EQ(picture_.GetStringCount(), -1);
+}
+
+TEST_F(CPictireTest, MCPicturePaintsTheFrameWhateverItHolds) {
+    MCPicture picture(notice_);
+    EXPECT_EQ(picture.GetWidth(), 9495);
+    EXPECT_EQ(picture.GetHeight(), 7935);
+    RecordingTarget target;
+    picture.OutMC(target, kFrame);
+    EXPECT_TRUE(target.strokes.empty());
+}
+
+}  // namespace
+}  // namespace kalvane
