@@ -1,0 +1,52 @@
+#include "app/store_setup.h"
+
+#include <functional>
+#include <string>
+
+#include "app/enc_decrypt.h"
+#include "app/starter_library.h"
+#include "platform/error.h"
+#include "store/connection.h"
+#include "store/store_files.h"
+
+namespace kalvane {
+namespace {
+
+void AddUser(Connection& users, const std::string& name, const std::string& password,
+             const std::string& rights) {
+    users.Execute("Insert into User values('" + name + "','" +
+                  clsEncDecrypt().KeyEncBuf(password, kPasswordKey) + "','" + rights + "')");
+}
+
+void FillUsers(Connection& users) {
+    AddUser(users, "Admin", "admin888", "111111111111");
+    AddUser(users, "user", "user888", "000111001011");
+}
+
+/// Makes a store under a passing name, fills it, and gives it its own name only then.
+void CreateWhole(const std::filesystem::path& file, StoreKind kind,
+                 const std::function<void(Connection&)>& fill) {
+    if (std::filesystem::exists(file)) return;
+    std::filesystem::path unfinished = file;
+    unfinished += ".new";
+    std::error_code failure;
+    std::filesystem::remove(unfinished, failure);
+    CreateStore(unfinished, kind);
+    if (fill) {
+        Connection connection(unfinished, kind);
+        fill(connection);
+    }
+    std::filesystem::rename(unfinished, file, failure);
+    if (failure) throw FileError("不能建立数据库文件“" + file.string() + "”：" + failure.message() + "。");
+}
+
+}  // namespace
+
+void CreateMissingStores(const std::filesystem::path& folder) {
+    CreateWhole(folder / kMainStoreName, StoreKind::Main, FillFromStarterLibrary);
+    CreateWhole(folder / kStockStoreName, StoreKind::Stock, {});
+    CreateWhole(folder / kUserStoreName, StoreKind::Users, FillUsers);
+    CreateWhole(folder / kTemplateStoreName, StoreKind::Main, {});
+}
+
+}  // namespace kalvane
