@@ -1,0 +1,110 @@
+#include "app/screens/frmLogin.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/app_state.h"
+#include "app/login.h"
+#include "store/store_files.h"
+#include "ui/dialogs.h"
+#include "ui/guard.h"
+#include "ui/text.h"
+
+namespace kalvane {
+namespace {
+constexpr int kTriesAllowed = 3;
+constexpr int kPictureSize = 64;
+constexpr int kFieldWidth = 220;
+const QString kTitle = QStringLiteral("提示");
+}  // namespace
+
+frmLogin::frmLogin(QWidget* parent)
+    : Screen(QStringLiteral("frmLogin"), QStringLiteral("登录"), parent),
+      cboUsrNm_(new QComboBox(this)),
+      txtPassword_(new QLineEdit(this)) {
+    setWindowFlag(Qt::WindowMaximizeButtonHint, false);
+    cboUsrNm_->setObjectName(QStringLiteral("cboUsrNm"));
+    cboUsrNm_->setMinimumWidth(kFieldWidth);
+    txtPassword_->setObjectName(QStringLiteral("txtPassword"));
+    txtPassword_->setEchoMode(QLineEdit::Password);
+
+    auto* picture = new QLabel(this);
+    picture->setPixmap(QIcon(QStringLiteral(":/ui/kalvane.svg")).pixmap(kPictureSize, kPictureSize));
+    auto* fields = new QFormLayout;
+    fields->addRow(QStringLiteral("用户名："), cboUsrNm_);
+    fields->addRow(QStringLiteral("密　码："), txtPassword_);
+
+    auto* cmdOK = new QPushButton(QStringLiteral("确定"), this);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    auto* cmdCancel = new QPushButton(QStringLiteral("取消"), this);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cmdOK);
+    buttons->addWidget(cmdCancel);
+
+    auto* top = new QHBoxLayout;
+    top->setSpacing(24);
+    top->addWidget(picture, 0, Qt::AlignVCenter);
+    top->addLayout(fields);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(24, 24, 24, 18);
+    rows->setSpacing(20);
+    rows->addLayout(top);
+    rows->addLayout(buttons);
+    rows->setSizeConstraint(QLayout::SetFixedSize);
+
+    OnSignal(cmdOK, &QPushButton::clicked, this, [this] { LogIn(); });
+    OnSignal(cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
+    App().loginOK = false;
+    Guarded(this, [this] { Load(); });
+}
+
+int frmLogin::exec() {
+    return users_ != nullptr ? Screen::exec() : Rejected;
+}
+
+void frmLogin::Load() {
+    auto users = std::make_unique<Connection>(App().folder / kUserStoreName, StoreKind::Users);
+    for (const std::string& name : UserNames(*users)) cboUsrNm_->addItem(ToQt(name));
+    cboUsrNm_->setCurrentIndex(-1);
+    users_ = std::move(users);
+}
+
+void frmLogin::LogIn() {
+    if (cboUsrNm_->currentText().isEmpty()) {
+        UseDialogs().Message(this, QStringLiteral("请选择要登陆的用户"), kTitle, NoticeIcon::Information);
+        cboUsrNm_->setFocus();
+        return;
+    }
+    if (txtPassword_->text().isEmpty()) {
+        UseDialogs().Message(this, QStringLiteral("密码不能为空！请输入"), kTitle, NoticeIcon::Information);
+        txtPassword_->setFocus();
+        return;
+    }
+    if (kalvane::LogIn(App(), *users_, FromQt(cboUsrNm_->currentText()), FromQt(txtPassword_->text()))) {
+        accept();
+    } else {
+        RefuseTry();
+    }
+}
+
+void frmLogin::RefuseTry() {
+    UseDialogs().Message(this, QStringLiteral("输入的密码不正确！"), kTitle, NoticeIcon::Information);
+    txtPassword_->clear();
+    txtPassword_->setFocus();
+    // The message speaks of three; it is the fourth wrong try that ends the login.
+    if (++wrongTries_ > kTriesAllowed) {
+        UseDialogs().Message(this, QStringLiteral("你输入已超过三次了！"), kTitle, NoticeIcon::Error);
+        reject();
+    }
+}
+
+}  // namespace kalvane

@@ -1,0 +1,37 @@
+#include <QApplication>
+#include <filesystem>
+
+#include "app/app_state.h"
+#include "app/instance_lock.h"
+#include "app/screens/MDIMain.h"
+#include "app/screens/frmLogin.h"
+#include "app/screens/frmSetup.h"
+#include "app/store_setup.h"
+#include "platform/settings_store.h"
+#include "ui/application.h"
+#include "ui/guard.h"
+
+using namespace kalvane;
+
+/// Login, splash, main screen. The start-up folder, where the stores lie, is the current one.
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    PrepareApplication(application);
+    SettingsStore settings(SettingsStore::DefaultFile());
+    App().settings = &settings;
+    Guarded(nullptr, [] {
+        App().folder = std::filesystem::current_path();
+        CreateMissingStores(App().folder);
+    });
+
+    frmLogin().exec();
+    if (!App().loginOK) return 0;
+
+    InstanceLock lock(App().folder);
+    if (frmSetup(lock).exec() != QDialog::Accepted) return 0;
+
+    MDIMain frame;
+    frame.Load();
+    frame.show();
+    return QApplication::exec();
+}
