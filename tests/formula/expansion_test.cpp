@@ -65,7 +65,7 @@ TEST_F(ExpansionTest, PlainWindowGoesDownForBarsAndToTheNearestForFittings) {
               "滑轮|L1|||6|个  \n"  // 2.5 to the even 2
               "锁|S1|||9|把\n"      // 2.9 to 3
               "5白玻||1315|1617|6|\n");
-    EXPECT_EQ(Plain({"1", "5", "十樘"}).substr(0, 17), "框B|K60|1440||0|\n");
+    EXPECT_EQ(Plain({"1", "5", "十樘"}).substr(0, 18), "框B|K60|1440||0|\n");
     EXPECT_EQ(Plain({"1", "99", "3"}), "");
     EXPECT_EQ(notice.text, "");
 }
