@@ -54,7 +54,7 @@ TEST(WheelGuard, AnUnfocusedComboKeepsItsValue) {
     combo.addItems({QStringLiteral("a"), QStringLiteral("b")});
     other.move(200, 0);
     window.show();
-    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     const auto turnWheel = [&combo] {
         QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
                           false);

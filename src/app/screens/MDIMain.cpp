@@ -164,8 +164,9 @@ void MDIMain::Load() {
 
 void MDIMain::closeEvent(QCloseEvent* event) {
     area_->closeAllSubWindows();
-    if (!area_->subWindowList().isEmpty()) {  // a screen wants to stay
-        event->ignore();
+    for (const QMdiSubWindow* child : area_->subWindowList()) {
+        if (!child->isVisible()) continue;  // closed, deleted when the loop comes round
+        event->ignore();                    // the screen wants to stay
         return;
     }
     Remember(kGeometryKey, QString::fromLatin1(saveGeometry().toBase64()));
