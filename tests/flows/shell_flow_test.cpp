@@ -140,7 +140,8 @@ TEST_F(LoginTest, WithoutAUserStoreItEndsAtOnce) {
     std::filesystem::remove(folder_ / kUserStoreName);
     frmLogin login;
     EXPECT_EQ(login.exec(), QDialog::Rejected);
-    EXPECT_EQ(dialogs_.shown.size(), 1);
+    ASSERT_EQ(dialogs_.shown.size(), 1);
+    EXPECT_TRUE(dialogs_.shown[0].startsWith(QStringLiteral("出错！|‘用户’数据库打开出错！")));
 }
 
 // --- Splash --------------------------------------------------------------------------------------
