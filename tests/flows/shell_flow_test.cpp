@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -198,8 +199,9 @@ TEST_F(MainScreenTest, RightsEnableEntries) {
         const char* enabled;
     };
     const Case cases[] = {
-        {"111111111111", "mnuExit mnuChangeBackgroup mnuClearCK mnuAbout mnuHelps x7 x8"},
-        {"111111110110", "mnuExit mnuAbout mnuHelps x7 x8"},
+        {"111111111111", "mnuProject mnuExit mnuChangeBackgroup mnuClearCK mnuAbout mnuHelps x4 x7 x8"},
+        {"111011110110", "mnuExit mnuAbout mnuHelps x7 x8"},
+        {"000100000000", "mnuProject mnuExit mnuAbout mnuHelps x4 x7 x8"},
         {"000000001000", "mnuExit mnuChangeBackgroup mnuAbout mnuHelps x7 x8"},
         {"000000000001", "mnuExit mnuClearCK mnuAbout mnuHelps x7 x8"},
         {"11111111111", "mnuExit mnuAbout mnuHelps x7 x8"},
@@ -219,6 +221,18 @@ TEST_F(MainScreenTest, ButtonsStandAtTheirPlacesWithSeparatorsBetween) {
         keys << (action->isSeparator() ? QStringLiteral("|") : action->objectName());
     }
     EXPECT_EQ(keys.join(QString()), QStringLiteral("x1|x2|x3|x4|x5|x9|x6|x7|x8"));
+}
+
+TEST_F(MainScreenTest, AWorkScreenIsOpenOnce) {
+    MDIMain frame;
+    frame.Load();
+    frame.show();
+    for (const char* command : {"mnuProject", "x4"}) {
+        Trigger(frame, command);
+        const QList<QMdiSubWindow*> children = frame.findChild<QMdiArea*>()->subWindowList();
+        ASSERT_EQ(children.size(), 1) << command;
+        EXPECT_EQ(children[0]->widget()->objectName(), QStringLiteral("frmMCGCGL"));
+    }
 }
 
 TEST_F(MainScreenTest, ClearingTheWarehouseEmptiesAllFiveTables) {

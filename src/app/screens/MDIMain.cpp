@@ -17,6 +17,7 @@
 #include "app/help_text.h"
 #include "app/screens/frmAbort.h"
 #include "app/screens/frmHelp.h"
+#include "app/screens/kalvane_kernel.h"
 #include "app/screens/picture_area.h"
 #include "app/startup.h"
 #include "platform/assertion.h"
@@ -68,7 +69,7 @@ const std::vector<MDIMain::EntryMenu>& MDIMain::Menus() {
              {QStringLiteral("mnuDesign"), QStringLiteral("窗型设计"), QStringLiteral("design"),
               Right::Design, nullptr},
              {QStringLiteral("mnuProject"), QStringLiteral("工程管理"), QStringLiteral("project"),
-              Right::Project, nullptr},
+              Right::Project, [](MDIMain&) { KalvaneKernel().ShowGCGL(); }},
              {QStringLiteral("mnuYouhua"), QStringLiteral("材料优化"), QStringLiteral("optimise"),
               Right::Optimise, nullptr},
              {QStringLiteral("mnuFYJH"), QStringLiteral("风压校核"), QStringLiteral("wind"), Right::WindCheck,
