@@ -29,12 +29,13 @@ class Cal {
     /// empty and `text` is not.
     static std::string Replace1(std::string_view text, std::string_view old, std::string_view replacement);
 
-    /// The value of a formula. Operators are + - * / and parentheses, left to right; functions SIN, COS,
-    /// TAN (of degrees, with 3.14 for pi), ATN, EXP, LOG and SQR. Each operation is computed in 64 bits and
-    /// cut to 15 digits; only the result is cut to 32 bits. An operation without a value (a division by
-    /// zero, a root of a negative) yields nothing, and a result beyond 32 bits leaves the one before it.
-    /// Throws FormulaError, with the object as good as new but for its last result, when a ")" finds
-    /// nothing to close; and, with the object untouched, beyond kMostCharacters.
+    /// The value of a formula. It knows + - * / from left to right, * and / before the others, none of them
+    /// unary; parentheses; SIN, COS, TAN of degrees and ATN in degrees, all with 3.14 for pi; EXP, LOG
+    /// (natural) and SQR. Each operation is computed in 64 bits and cut to 15 digits; only the result is cut
+    /// to 32 bits. An operation without a value (a division by zero, a root of a negative) yields nothing,
+    /// and a result beyond 32 bits leaves the one before it. Throws FormulaError, with the object as good as
+    /// new but for its last result, when a ")" finds nothing to close; and, with the object untouched, beyond
+    /// kMostCharacters.
     float CalExpress(std::string_view formula);
 
   private:
