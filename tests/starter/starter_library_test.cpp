@@ -1,5 +1,3 @@
-#include <algorithm>
-#include <cctype>
 #include <cmath>
 #include <map>
 #include <regex>
@@ -63,10 +61,7 @@ std::set<std::string> NamesIn(const std::string& formula) {
     static const std::regex name("[A-Za-z][A-Za-z0-9]*");
     std::set<std::string> names;
     for (std::sregex_iterator match(formula.begin(), formula.end(), name), end; match != end; ++match) {
-        std::string text = match->str();
-        std::transform(text.begin(), text.end(), text.begin(),
-                       [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-        names.insert(text);
+        names.insert(UpperCase(match->str()));
     }
     return names;
 }
@@ -143,11 +138,12 @@ TEST_F(StarterLibraryTest, EveryWindowTypeClosesAndIsGlazedWithinItsOpening) {
     for (const Row& type : types) {
         const std::string rowsOf = " where 窗号=" + type[0];
         const std::vector<Row> drawn = Select("Chars from Strings where Bn=" + type[2]);
+        const std::vector<Row> sample = Select("编号 from 工程门窗 where 门窗编号=" + type[0]);
+        ASSERT_EQ(sample.size(), 1U) << type[1];
         for (const double scale : {1.0, 0.85}) {
             SCOPED_TRACE(type[1] + " x " + std::to_string(scale));
             Sizes sizes;
-            for (const Row& label :
-                 Select("MC,schar from 标注,工程门窗 where Mcnum=编号 and 门窗编号=" + type[0])) {
+            for (const Row& label : Select("MC,schar from 标注 where Mcnum=" + sample[0][0])) {
                 sizes.Add(label[0], std::stod(label[1]) * scale);
             }
             sizes.Sort();
@@ -195,13 +191,15 @@ TEST_F(StarterLibraryTest, SlidingLeafFollowsItsInterlock) {
     Sizes sizes;
     sizes.Add("B", 1500);
     sizes.Add("H", 1400);
-    const auto value = [&](const std::string& columnFromTable, const std::string& name) {
-        const auto rows =
-            Select(columnFromTable + ",门窗 where 窗号=门窗.编号 and 门窗.名称='两扇推拉窗' and " + name);
+    const std::vector<Row> type = Select("编号 from 门窗 where 名称='两扇推拉窗'");
+    ASSERT_EQ(type.size(), 1U);
+    const auto value = [&](const std::string& columnFromTable, const std::string& condition) {
+        const std::vector<Row> rows =
+            Select(columnFromTable + " where 窗号=" + type[0][0] + " and " + condition);
         return rows.size() == 1 ? sizes.Value(rows[0][0]) : 0;
     };
-    EXPECT_EQ(value("计算公式 from 窗型材", "窗型材.名称='扇B'"), 750);
-    EXPECT_EQ(value("计算公式 from 窗型材", "窗型材.名称='扇H'"), 1322);
+    EXPECT_EQ(value("计算公式 from 窗型材", "名称='扇B'"), 750);
+    EXPECT_EQ(value("计算公式 from 窗型材", "名称='扇H'"), 1322);
     EXPECT_EQ(value("长公式 from 窗板材", "数量=2"), 630);
     EXPECT_EQ(value("宽公式 from 窗板材", "数量=2"), 1202);
 }
@@ -227,7 +225,7 @@ TEST_F(StarterLibraryTest, SampleProjectIsComplete) {
         std::map<std::string, std::string> values;
         for (std::size_t i = 0; i < drawn.size(); ++i) {
             EXPECT_EQ(drawn[i], Row(labels[i].begin(), labels[i].begin() + 3));
-            EXPECT_LE(CharacterCount(labels[i][0]), 5U);
+            EXPECT_LE(CharCount(labels[i][0]), 5U);
             EXPECT_GT(std::stod(labels[i][3]), 0);
             values[labels[i][0]] = labels[i][3];
         }
