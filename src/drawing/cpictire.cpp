@@ -127,7 +127,11 @@ void CPictire::Paint(PaintTarget& target, const Box& source, const Box& destinat
             Draw_String(target, at.x, at.y, item.text);
         }
     }
-    for (const ArcItem& item : arcs_) DrawArc(target, map(item.p1), map(item.p2), map(item.p3));
+    for (const ArcItem& item : arcs_) {
+        // Looked at before the mapping: its rounding would bend a straight arc to a circle of any size.
+        if (AreInLine(item.p1, item.p2, item.p3)) continue;
+        DrawArc(target, map(item.p1), map(item.p2), map(item.p3));
+    }
 }
 
 }  // namespace kalvane

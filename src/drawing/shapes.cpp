@@ -31,6 +31,12 @@ std::optional<double> AngleAt(double u, double v) {
     return v >= 0 ? angle : kFullTurn + angle;
 }
 
+/// Twice the signed area of the triangle. In 64 bits it is exact for whole coordinates.
+double Determinant(Point p1, Point p2, Point p3) {
+    const double x2 = p2.x, y2 = p2.y;
+    return (p1.x - x2) * (p3.y - y2) - (p3.x - x2) * (p1.y - y2);
+}
+
 }  // namespace
 
 void DrawStroke(PaintTarget& target, Point from, Point to) {
@@ -81,6 +87,10 @@ void DrawDim(PaintTarget& target, Point p1, Point p2, Point p3) {
     DrawArrow(target, q2, q1);
 }
 
+bool AreInLine(Point p1, Point p2, Point p3) {
+    return Determinant(p1, p2, p3) == 0;
+}
+
 void DrawArc(PaintTarget& target, Point p1, Point p2, Point p3) {
     // In 64 bits: the products of squares need about 44 bits for whole coordinates of the frame, and the
     // tests against zero below are meant exactly.
@@ -91,7 +101,7 @@ void DrawArc(PaintTarget& target, Point p1, Point p2, Point p3) {
     const double f = y3 - y2;
     const double g = ((y2 + y1) * b + (x1 + x2) * a) / 2;
     const double h = ((y2 + y3) * f + (x2 + x3) * c) / 2;
-    const double determinant = a * f - c * b;
+    const double determinant = Determinant(p1, p2, p3);
     if (determinant == 0) return;
 
     const double cx = (g * f - h * b) / determinant;

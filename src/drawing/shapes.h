@@ -29,6 +29,9 @@ void DrawArrow(PaintTarget& target, Point p1, Point p2);
 /// lines, two arrows. A measure is vertical when it is at least as high as wide.
 void DrawDim(PaintTarget& target, Point p1, Point p2, Point p3);
 
+/// True when no circle goes through the three points.
+bool AreInLine(Point p1, Point p2, Point p3);
+
 /// The circle through three points as 15 chords, from the smaller to the greater of the two angles at
 /// which p1 and p3 stand. Angles are taken with 3.14 for a half turn. Nothing is drawn when the points are
 /// in line or when p1 or p3 is straight above or below the centre.

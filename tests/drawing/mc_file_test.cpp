@@ -1,24 +1,18 @@
 #include "drawing/mc_file.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
-
-#include <filesystem>
 
 #include "drawing/recorders.h"
 #include "platform/error.h"
 #include "platform/files.h"
+#include "support/temp_folder.h"
 
 namespace kalvane {
 namespace {
 
 class McFileTest : public ::testing::Test {
   protected:
-    McFileTest() { std::filesystem::create_directories(folder_); }
-    ~McFileTest() override { std::filesystem::remove_all(folder_); }
-
-    std::filesystem::path folder_ =
-        std::filesystem::temp_directory_path() / ("kalvane_mc_" + std::to_string(::getpid()));
+    test::TempFolder folder_;
     std::filesystem::path file_ = folder_ / "窗.MC";
     RecordingNotice notice_;
     CPictire picture_{notice_};

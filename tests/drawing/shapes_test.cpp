@@ -135,7 +135,7 @@ TEST(Shapes, TextIsCentredInHeightOnly) {
 TEST(Painting, StretchesTheFrameOverTheBoxInOrderOfKinds) {
     RecordingNotice notice;
     CPictire picture(notice);
-    picture.AddArc({{0, 0}, {1, 1}, {2, 2}});  // in line: nothing to paint
+    picture.AddArc({{0, 0}, {1, 1}, {2, 2}});  // in line before the mapping, no longer behind it
     picture.AddString({{4747.5F, 3967.5F}, "B"});
     picture.AddRec({{0, 0}, {9495, 7935}});
     picture.AddLine({{9495, 0}, {4747.5F, 7935}});

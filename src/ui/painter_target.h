@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+
+#include "drawing/paint_target.h"
+
+class QPagedPaintDevice;
+class QPainter;
+
+namespace kalvane {
+
+/// Twips of a logical pixel: 1440 an inch over 96 an inch.
+inline constexpr int kTwipsPerPixel = 15;
+
+/// Paint target over a painter: one paint path for the screen, images, the printer and PDF. The painter's
+/// own translation sets the origin; the painter must outlive the target.
+class PainterTarget : public PaintTarget {
+  public:
+    enum class Medium {
+        Screen,  ///< strokes one device unit wide, upright and level ones on whole pixels
+        Paper    ///< strokes half a point wide
+    };
+
+    /// `unitsPerTwip` is the device's scale; texts follow it, whatever resolution the device claims.
+    PainterTarget(QPainter& painter, double unitsPerTwip, Medium medium);
+
+    /// For a printer or PDF page; the origin is the top left of the printable area.
+    PainterTarget(QPainter& painter, QPagedPaintDevice& pages);
+
+    void DrawLine(float x1, float y1, float x2, float y2) override;
+    void DrawText(float x, float y, std::string_view text) override;
+    float TextHeight(std::string_view text) const override;
+    /// Throws Error when the device refuses. Without pages it does nothing.
+    void NewPage() override;
+
+    /// Width of a text in twips.
+    float TextWidth(std::string_view text) const;
+
+    /// Font size of the texts from here on; 9 points at first.
+    void SetFontPoints(double points);
+    /// Colour of the texts from here on; black at first.
+    void SetTextColour(const QColor& colour) { textColour_ = colour; }
+
+  private:
+    QPainter& painter_;
+    double unitsPerTwip_;
+    Medium medium_;
+    QPagedPaintDevice* pages_ = nullptr;
+    QFont font_;
+    QColor textColour_ = Qt::black;
+};
+
+}  // namespace kalvane

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QImage>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "drawing/mcpicture.h"
+#include "ui/painter_target.h"
+
+namespace kalvane {
+
+/// The value of a label of a project window, at the label's position in drawing units.
+struct WindowLabel {
+    double px = 0;
+    double py = 0;
+    std::string value;
+};
+
+// The picture of a project window: its drawing without the names of the labels, with their values in their
+// place.
+
+/// Prints the values over a drawing stretched over (0, 0, inner.x2, inner.y2), each with its top left at its
+/// position. The value with the index `selected` is red; -1 for none.
+void PaintLabelValues(PainterTarget& target, std::span<const WindowLabel> labels, const Box& inner,
+                      int selected = -1);
+
+/// The picture as an image of `size` pixels, white, with the frame's shape kept and centred. `dotsPerInch`
+/// sets the scale of texts, wings and stubs: 96 gives what a picture box of that size shows.
+QImage WindowPictureImage(const MCPicture& picture, std::span<const WindowLabel> labels, QSize size,
+                          double dotsPerInch = 96);
+
+/// The picture in the frame's own size on one upright A4 page of a PDF file, below `title`. Fonts are
+/// embedded. Throws FileError when the file cannot be written; an existing one then stays as it was.
+void WriteWindowPicturePdf(const std::filesystem::path& path, std::string_view title,
+                           const MCPicture& picture, std::span<const WindowLabel> labels);
+
+}  // namespace kalvane

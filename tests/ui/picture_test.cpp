@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QPainter>
+#include <QPdfWriter>
+
+#include "drawing/recorders.h"
+#include "platform/files.h"
+#include "support/temp_folder.h"
+#include "ui/picture_box.h"
+#include "ui/window_picture.h"
+
+namespace kalvane {
+namespace {
+
+/// Pixels of a rectangle that are not white, or that are red rather than grey.
+int Ink(const QImage& image, QRect part, bool redOnly = false) {
+    int count = 0;
+    part &= image.rect();
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x) {
+            const QColor colour = image.pixelColor(x, y);
+            const bool red = colour.red() > 200 && colour.green() < 128 && colour.blue() < 128;
+            if (redOnly ? red : colour.lightness() < 128) ++count;
+        }
+    }
+    return count;
+}
+
+TEST(WindowPicture, ImageShowsStrokesAndValuesInTheFramesShape) {
+    RecordingNotice notice;
+    CPictire drawing(notice);
+    drawing.AddLine({{0, 0}, {9495, 0}});
+    drawing.AddLine({{4747.5F, 0}, {4747.5F, 7935}});
+    drawing.AddString({{200, 2000}, "名称"});  // label names are not painted
+    MCPicture picture(notice);
+    const test::TempFolder folder;
+    const std::filesystem::path file = folder / "a.MC";
+    drawing.SavePicture(file);
+    picture.OpenFileMC(file);
+
+    // 1000 wide leaves 940 for the frame less its margins, but 529 high only 94 %: scale 0.94 / 15, so the
+    // frame is 595 by 497 and starts at (202, 15); its middle is at x = 202 + 297.
+    const WindowLabel labels[] = {{1000, 4000, "1500"}, {6000, 4000, ""}};
+    const QImage image = WindowPictureImage(picture, labels, {1000, 529});
+    EXPECT_EQ(image.size(), QSize(1000, 529));
+    EXPECT_EQ(Ink(image, {499, 20, 1, 480}), 480);
+    EXPECT_EQ(Ink(image, {210, 15, 500, 1}), 500);
+    EXPECT_EQ(Ink(image, {0, 0, 201, 529}), 0);
+    EXPECT_EQ(Ink(image, {800, 0, 200, 529}), 0);
+    // The value stands right of and below (202 + 62.7, 15 + 250.7).
+    EXPECT_GT(Ink(image, {264, 265, 40, 18}), 20);
+    EXPECT_EQ(Ink(image, {203, 17, 290, 248}), 0);
+    EXPECT_EQ(Ink(image, {203, 285, 290, 200}), 0);
+}
+
+TEST(WindowPicture, PdfIsOnePageWithItsFontsEmbedded) {
+    RecordingNotice notice;
+    const MCPicture picture(notice);
+    const test::TempFolder folder;
+    const std::filesystem::path file = folder / "窗.pdf";
+    const WindowLabel labels[] = {{1000, 4000, "1500"}};
+    WriteWindowPicturePdf(file, "推拉窗", picture, labels);
+    const std::string bytes = ReadFile(file);
+    EXPECT_EQ(bytes.substr(0, 5), "%PDF-");
+    EXPECT_NE(bytes.find("/Count 1\n"), std::string::npos);
+    EXPECT_NE(bytes.find("/FontFile"), std::string::npos);
+}
+
+TEST(PainterTarget, TextHasTheSameSizeOnEveryDevice) {
+    QImage image(10, 10, QImage::Format_RGB32);
+    QPainter imagePainter(&image);
+    const PainterTarget screen(imagePainter, 1.0 / kTwipsPerPixel, PainterTarget::Medium::Screen);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    QPainter pagePainter(&writer);
+    PainterTarget page(pagePainter, writer);
+    const float height = page.TextHeight("国");
+    EXPECT_NEAR(screen.TextHeight("国"), height, 0.03F * height);
+    EXPECT_NEAR(screen.TextWidth("推拉窗"), 3 * 180, 5);  // a Chinese character of 9 points is 180 wide
+    EXPECT_NEAR(page.TextWidth("推拉窗"), 3 * 180, 5);
+    page.SetFontPoints(18);
+    EXPECT_NEAR(page.TextHeight("国"), 2 * height, 0.01F * height);
+}
+
+TEST(PictureBox, KeepsThePersistentLayerUnderTheTransientOne) {
+    PictureBox box(QStringLiteral("PicMC"));
+    box.resize(300, 200);
+    int runs = 0;
+    Box seen;
+    box.SetPersistent([&](PainterTarget& target, Box inner) {
+        ++runs;
+        seen = inner;
+        target.DrawLine(0, 1500, inner.x2, 1500);  // at pixel 100
+    });
+    const auto row = [&](int y) { return Ink(box.grab().toImage(), {50, y, 200, 3}); };
+    const int top = box.contentsRect().top();
+    EXPECT_EQ(row(top + 99), 200);
+    EXPECT_EQ(seen.x2, static_cast<float>(box.contentsRect().width()) * 15);
+    EXPECT_EQ(seen.y2, box.Inner().y2);
+
+    const WindowLabel labels[] = {{0, 0, "国国国"}, {0, 7000, "国国国"}};
+    box.SetTransient([&](PainterTarget& target, Box inner) { PaintLabelValues(target, labels, inner, 1); });
+    const QImage both = box.grab().toImage();
+    EXPECT_GT(Ink(both, {0, 0, 300, 50}), 20);
+    EXPECT_EQ(Ink(both, {0, 0, 300, 50}, true), 0);
+    EXPECT_GT(Ink(both, {0, 150, 300, 50}, true), 20);
+    EXPECT_EQ(runs, 1);  // not painted again for the transient layer
+
+    box.SetTransient({});
+    EXPECT_EQ(row(top + 20), 0);
+    EXPECT_EQ(row(top + 99), 200);
+    box.resize(400, 250);
+    box.grab();
+    EXPECT_EQ(runs, 2);
+    box.SetPersistent({});
+    EXPECT_EQ(row(top + 99), 0);
+}
+
+}  // namespace
+}  // namespace kalvane
