@@ -1,7 +1,5 @@
 #include "optimise/plan_workbook.h"
 
-#include "platform/workbook.h"
-
 namespace kalvane {
 namespace {
 
@@ -65,11 +63,11 @@ void FillTotalSheet(Sheet& sheet, const PlanOutput& plan) {
 
 }  // namespace
 
-void SavePlanWorkbook(const PlanOutput& plan, const std::filesystem::path& path) {
+Workbook PlanWorkbook(const PlanOutput& plan) {
     Workbook workbook;
     FillCutSheet(workbook.AddSheet(), plan);
     FillTotalSheet(workbook.AddSheet(), plan);
-    workbook.Save(path);
+    return workbook;
 }
 
 }  // namespace kalvane

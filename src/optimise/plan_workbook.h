@@ -1,13 +1,11 @@
 #pragma once
 
-#include <filesystem>
-
 #include "optimise/plan.h"
+#include "platform/workbook.h"
 
 namespace kalvane {
 
-/// Saves both tables of the plan as a spreadsheet of two sheets, ready to be signed. Throws FileError and
-/// leaves an older file as it was.
-void SavePlanWorkbook(const PlanOutput& plan, const std::filesystem::path& path);
+/// Both tables of the plan as a spreadsheet of two sheets, ready to be printed and signed.
+Workbook PlanWorkbook(const PlanOutput& plan);
 
 }  // namespace kalvane

@@ -2,6 +2,7 @@
 
 #include <iconv.h>
 
+#include <algorithm>
 #include <cerrno>
 
 #include "numeric/text.h"
@@ -49,6 +50,13 @@ std::string_view FirstCharacter(std::string_view utf8) {
     return utf8.substr(0, length);
 }
 
+/// Chinese text in UTF-8 always has one. A single Chinese character in GBK can pass for a letter of two
+/// bytes, which no file of this trade holds.
+bool HasCharacterOfThreeBytes(std::string_view utf8) {
+    return std::any_of(utf8.begin(), utf8.end(),
+                       [](char c) { return static_cast<unsigned char>(c) >= 0xE0; });
+}
+
 }  // namespace
 
 std::string ToGbk(std::string_view utf8) {
@@ -75,9 +83,10 @@ std::string FromGbk(std::string_view gbk) {
 }
 
 std::string DecodeFileText(std::string_view bytes) {
-    if (!IsUtf8(bytes)) return FromGbk(bytes);
     constexpr std::string_view kMark = "\xEF\xBB\xBF";
-    if (bytes.substr(0, kMark.size()) == kMark) bytes.remove_prefix(kMark.size());
+    const bool isMarked = bytes.substr(0, kMark.size()) == kMark;
+    if (!IsUtf8(bytes) || (!isMarked && !HasCharacterOfThreeBytes(bytes))) return FromGbk(bytes);
+    if (isMarked) bytes.remove_prefix(kMark.size());
     return std::string(bytes);
 }
 

@@ -14,8 +14,8 @@ std::string ToGbk(std::string_view utf8);
 /// GBK to UTF-8. Bytes that are no GBK become U+FFFD.
 std::string FromGbk(std::string_view gbk);
 
-/// Text of a file of unknown code page: UTF-8 (a byte order mark is dropped) when it is well-formed, else
-/// GBK. The result is UTF-8.
+/// Text of a file of unknown code page: UTF-8 when it has a byte order mark (which is dropped) or is
+/// well-formed and holds a character of three bytes or more, else GBK. The result is UTF-8.
 std::string DecodeFileText(std::string_view bytes);
 
 /// Code of each character of a UTF-8 text in the system's code page (GBK), as signed 16-bit words: one

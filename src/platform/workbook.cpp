@@ -71,6 +71,27 @@ void Sheet::DrawBorders(int firstRow, int firstColumn, int lastRow, int lastColu
     }
 }
 
+const Sheet::Cell& Sheet::At(int row, int column) const {
+    static const Cell kEmpty;
+    const auto found = cells_.find({row, column});
+    return found == cells_.end() ? kEmpty : found->second;
+}
+
+const std::string& Sheet::Text(int row, int column) const {
+    for (const Merge& merge : merges_) {
+        if (merge.firstRow == row && merge.firstColumn == column) return merge.text;
+    }
+    return At(row, column).text;
+}
+
+bool Sheet::IsNumber(int row, int column) const {
+    return At(row, column).isNumber;
+}
+
+bool Sheet::HasBorder(int row, int column) const {
+    return At(row, column).hasBorder;
+}
+
 void Workbook::Save(const std::filesystem::path& path) const {
     const TemporaryFile file;
     lxw_workbook* book = workbook_new(file.Path().c_str());

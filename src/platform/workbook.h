@@ -28,6 +28,11 @@ class Sheet {
     /// Thin lines around every cell of a range, empty ones too; nothing when the range is empty.
     void DrawBorders(int firstRow, int firstColumn, int lastRow, int lastColumn);
 
+    /// Text of a cell, or of the merged range that begins there; empty when nothing was written.
+    const std::string& Text(int row, int column) const;
+    bool IsNumber(int row, int column) const;
+    bool HasBorder(int row, int column) const;
+
   private:
     friend class Workbook;
 
@@ -41,6 +46,8 @@ class Sheet {
         std::string text;
     };
 
+    const Cell& At(int row, int column) const;
+
     std::map<std::pair<int, int>, Cell> cells_;  // by row, column
     std::vector<Merge> merges_;
     std::map<int, double> widths_;
@@ -51,6 +58,8 @@ class Workbook {
   public:
     /// Adds an empty sheet behind the others; the reference stays valid as long as the workbook.
     Sheet& AddSheet() { return sheets_.emplace_back(); }
+
+    const std::deque<Sheet>& Sheets() const { return sheets_; }
 
     /// Writes the file as one step: a failure throws FileError and leaves an older file as it was.
     void Save(const std::filesystem::path& path) const;

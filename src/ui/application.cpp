@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
+#include <QLocale>
 #include <QStyleFactory>
 
 #include "ui/standard_texts.h"
@@ -29,6 +30,7 @@ QFont ScreenFont() {
 void PrepareApplication(QApplication& application) {
     // Not the display name: the platform would add that to every window's title.
     QApplication::setApplicationName(QStringLiteral("KalvaneV7.0"));
+    QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::China));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/ui/kalvane.svg")));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setFont(ScreenFont());

@@ -15,6 +15,8 @@
 namespace kalvane {
 namespace {
 
+constexpr QSize kFileDialogSize(820, 520);
+
 QMessageBox::Icon ToToolkitIcon(NoticeIcon icon) {
     switch (icon) {
         case NoticeIcon::Information:
@@ -128,6 +130,7 @@ class RealDialogs final : public Dialogs {
         dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("查找范围："));
         dialog.setLabelText(QFileDialog::FileName, QStringLiteral("文件名："));
         dialog.setLabelText(QFileDialog::FileType, QStringLiteral("文件类型："));
+        dialog.resize(dialog.size().expandedTo(kFileDialogSize));
         if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
         const QString file = dialog.selectedFiles().front();
         Remember(FolderKey(purpose), QFileInfo(file).absolutePath());

@@ -35,28 +35,20 @@ TEST_F(McFileTest, WritesSectionsValueByLineInGbkWithoutArcs) {
     EXPECT_EQ(Describe(read),
               "Line 1266,0 0.5,-3; Rec 10,20 30,40; Dir 1,2 3,4; Dim 1,2 3,4 5,6; String 7,8 框厚 KH1; "
               "Arc 1,1 2,2 3,1");
-}
 
-TEST_F(McFileTest, AnEmptyDrawingIsAnEmptyFile) {
-    picture_.SavePicture(file_);
+    CPictire(notice_).SavePicture(file_);
     EXPECT_EQ(ReadFile(file_), "");
-    CPictire read(notice_);
-    read.AddRec({});
     read.Open_File(file_);
-    EXPECT_EQ(Describe(read), "");
+    EXPECT_EQ(Describe(read), "Arc 1,1 2,2 3,1");
 }
 
-TEST_F(McFileTest, ACharacterThatGbkLacksKeepsTheOldFile) {
+TEST_F(McFileTest, AFailureOfTheFileChangesNothing) {
     WriteFileAtomically(file_, "old");
-    picture_.AddString({{1, 1}, "B😀"});
+    picture_.AddString({{1, 1}, "B😀"});  // no character of GBK
     EXPECT_THROW(picture_.SavePicture(file_), FileError);
     EXPECT_EQ(ReadFile(file_), "old");
-}
-
-TEST_F(McFileTest, AMissingFileChangesNothing) {
-    FillWithEachKind(picture_);
     EXPECT_THROW(picture_.Open_File(folder_ / "none.MC"), FileError);
-    EXPECT_EQ(Describe(picture_), kEachKind);
+    EXPECT_EQ(Describe(picture_), "String 1,1 B😀");
 }
 
 TEST_F(McFileTest, ReadsUtf8AndGbkAlike) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 #include "drawing/recorders.h"
@@ -10,69 +11,39 @@
 namespace kalvane {
 namespace {
 
-using Strokes = std::vector<std::string>;
-
-TEST(Shapes, ArrowHeadIsAnEighthOfTheShaftWithWingsAlongAnAxis) {
+TEST(Shapes, ArrowsAndDimensionMarks) {
     const struct {
-        Point from, to;
-        Strokes expected;
+        std::vector<Point> points;  // two of an arrow, three of a mark
+        const char* painted;        // of a mark: stubs and extension lines, which its two arrows follow
     } kCases[] = {
-        {{0, 0},
-         {0, 2400},
-         {"0,0 0,2400", "0,2400 56,2100", "0,2400 -56,2100", "56,2100 0,2200", "-56,2100 0,2200"}},
-        {{2400, 100},
-         {0, 100},
-         {"2400,100 0,100", "0,100 300,156", "0,100 300,44", "300,156 200,100", "300,44 200,100"}},
+        {{{0, 0}, {0, 2400}}, "0,0 0,2400; 0,2400 56,2100; 0,2400 -56,2100; 56,2100 0,2200; -56,2100 0,2200"},
+        {{{2400, 9}, {0, 9}}, "2400,9 0,9; 0,9 300,65; 0,9 300,-47; 300,65 200,9; 300,-47 200,9"},
         // As high as wide counts as steep.
-        {{0, 0},
-         {240, 240},
-         {"0,0 240,240", "240,240 266,210", "240,240 154,210", "266,210 220,220", "154,210 220,220"}},
-        {{5, 5}, {5, 5}, {"5,5 5,5", "5,5 61,5", "5,5 -51,5", "61,5 5,5", "-51,5 5,5"}},
-    };
-    for (const auto& c : kCases) {
-        RecordingTarget target;
-        DrawArrow(target, c.from, c.to);
-        EXPECT_EQ(target.strokes, c.expected);
-    }
-}
-
-TEST(Shapes, DimensionMark) {
-    const struct {
-        Point p1, p2, p3;
-        Strokes expected;  // stubs, extension lines, the two shafts
-    } kCases[] = {
-        // Vertical, line on the left: d = 400 - 1000.
-        {{1000, 500},
-         {1000, 1700},
-         {400, 900},
-         {"400,500 214,500", "400,1700 214,1700", "400,500 1000,500", "400,1700 1000,1700",
-          "400,500 400,1700", "400,1700 400,500"}},
-        // Slanted and flat, line below: the measure's height at x = 600 is 300, so d = 700.
-        {{0, 0},
-         {1200, 600},
-         {600, 1000},
-         {"0,700 0,886", "1200,1300 1200,1486", "0,700 0,0", "1200,1300 1200,600", "0,700 1200,1300",
-          "1200,1300 0,700"}},
-        // Slanted and steep, line on the right: the measure's x at y = 100 is 50, so d = 250.
-        {{0, 0},
-         {100, 200},
-         {300, 100},
-         {"250,0 436,0", "350,200 536,200", "250,0 0,0", "350,200 100,200", "250,0 350,200",
-          "350,200 250,0"}},
+        {{{0, 0}, {24, 24}}, "0,0 24,24; 24,24 77,21; 24,24 -35,21; 77,21 22,22; -35,21 22,22"},
+        {{{5, 5}, {5, 5}}, "5,5 5,5; 5,5 61,5; 5,5 -51,5; 61,5 5,5; -51,5 5,5"},
+        // Upright, line on the left: d = 400 - 1000.
+        {{{1000, 500}, {1000, 1700}, {400, 900}},
+         "400,500 214,500; 400,1700 214,1700; 400,500 1000,500; 400,1700 1000,1700; 400,500 400,1700; "
+         "400,1700 456,1550; 400,1700 344,1550; 456,1550 400,1600; 344,1550 400,1600; 400,1700 400,500; "
+         "400,500 456,650; 400,500 344,650; 456,650 400,600; 344,650 400,600"},
+        // Slanted and flat: the measure's height at x = 600 is 300, so d = 700.
+        {{{0, 0}, {1200, 600}, {600, 1000}},
+         "0,700 0,886; 1200,1300 1200,1486; 0,700 0,0; 1200,1300 1200,600; 0,700 1200,1300; "},
+        // Slanted and steep: the measure's x at y = 100 is 50, so d = 250.
+        {{{0, 0}, {100, 200}, {300, 100}}, "250,0 436,0; 350,200 536,200; 250,0 0,0; 350,200 100,200; "},
         // No measure: the foot is the point itself.
-        {{100, 100},
-         {100, 100},
-         {300, 700},
-         {"300,100 486,100", "300,100 486,100", "300,100 100,100", "300,100 100,100", "300,100 300,100",
-          "300,100 300,100"}},
+        {{{9, 9}, {9, 9}, {30, 70}}, "30,9 216,9; 30,9 216,9; 30,9 9,9; 30,9 9,9; 30,9 30,9; "},
     };
     for (const auto& c : kCases) {
         RecordingTarget target;
-        DrawDim(target, c.p1, c.p2, c.p3);
-        ASSERT_EQ(target.strokes.size(), 14U);  // four, and two arrows of five
-        EXPECT_EQ(Strokes(target.strokes.begin(), target.strokes.begin() + 5),
-                  Strokes(c.expected.begin(), c.expected.begin() + 5));
-        EXPECT_EQ(target.strokes[9], c.expected[5]);
+        if (c.points.size() == 2) {
+            DrawArrow(target, c.points[0], c.points[1]);
+            EXPECT_EQ(target.painted, c.painted);
+        } else {
+            DrawDim(target, c.points[0], c.points[1], c.points[2]);
+            EXPECT_EQ(target.painted.substr(0, std::string(c.painted).size()), c.painted);
+            EXPECT_EQ(target.ends.size(), 14U);
+        }
     }
 }
 
@@ -80,56 +51,43 @@ TEST(Shapes, NoTargetMeetsAPositionBeyondAFloat) {
     constexpr float kHuge = std::numeric_limits<float>::max();
     RecordingTarget target;
     DrawDim(target, {-kHuge, 0}, {kHuge, 1}, {5, kHuge});
-    DrawArrow(target, {-kHuge, 0}, {kHuge, 0});
     DrawArc(target, {-kHuge, 0}, {kHuge, 0}, {0, kHuge});
     Draw_String(target, std::numeric_limits<float>::quiet_NaN(), 0, "B");
-    EXPECT_TRUE(target.finite);
-    for (const std::string& stroke : target.strokes) EXPECT_EQ(stroke.find("B"), std::string::npos);
+    EXPECT_EQ(target.painted.find_first_of("nB"), std::string::npos) << target.painted;  // nan, inf, the text
 }
 
 TEST(Shapes, ArcSweepsFromTheSmallerAngleToTheGreater) {
     // Circle around (0, 0) with radius 100. Angles: (100, 0) at 0, (-100, 0) at 3.14, and (60, 80), which
-    // is below the centre, at 6.28 - 0.9272952 = 5.3527048.
-    const Point left{-99.99987F, -0.15927F};
+    // is below the centre, at 6.28 - 0.9272952 = 5.3527048. Where p2 lies does not matter.
     const struct {
-        Point p1, p2, p3, last;
+        Point p1, p3;
+        double start, end;
     } kCases[] = {
-        {{100, 0}, {0, 100}, {-100, 0}, left},
-        {{-100, 0}, {0, 100}, {100, 0}, left},  // swapped ends, same curve
-        {{60, 80}, {0, 100}, {-100, 0}, {59.74486F, 80.19071F}},
+        {{100, 0}, {-100, 0}, 0, 3.14},
+        {{-100, 0}, {100, 0}, 0, 3.14},
+        {{60, 80}, {-100, 0}, 3.14, 5.3527048},
     };
     for (const auto& c : kCases) {
         RecordingTarget target;
-        DrawArc(target, c.p1, c.p2, c.p3);
-        ASSERT_EQ(target.strokes.size(), 15U);
-        EXPECT_NEAR(target.ends.back().x, c.last.x, 1e-3);
-        EXPECT_NEAR(target.ends.back().y, c.last.y, 1e-3);
-        for (const Point& end : target.ends) EXPECT_NEAR(std::hypot(end.x, end.y), 100, 1e-3);
+        DrawArc(target, c.p1, {0, 100}, c.p3);
+        ASSERT_EQ(target.ends.size(), 15U);
+        for (int i = 1; i <= 15; ++i) {
+            const double angle = c.start + i * (c.end - c.start) / 15;
+            EXPECT_NEAR(target.ends[static_cast<std::size_t>(i - 1)].x, 100 * std::cos(angle), 1e-3);
+            EXPECT_NEAR(target.ends[static_cast<std::size_t>(i - 1)].y, -100 * std::sin(angle), 1e-3);
+        }
     }
-    // The half circle of the first two runs above the centre, although p2 lies below it.
-    RecordingTarget upper;
-    DrawArc(upper, {100, 0}, {0, 100}, {-100, 0});
-    EXPECT_NEAR(upper.ends[7].y, -100 * std::sin(8 * 3.14 / 15), 1e-3);
-}
-
-TEST(Shapes, ArcWithoutAnAnglePaintsNothing) {
-    const Point kCases[][3] = {
+    const Point kNoAngle[][3] = {
         {{0, 0}, {50, 50}, {100, 100}},              // in line
         {{0, -100}, {100, 0}, {-100, 0}},            // p1 above the centre
         {{2255, 3000}, {2355, 2900}, {2255, 2800}},  // p1 below the centre, off the origin
         {{100, 0}, {-100, 0}, {0, 100}},             // p3 below the centre
     };
-    for (const auto& c : kCases) {
+    for (const auto& c : kNoAngle) {
         RecordingTarget target;
         DrawArc(target, c[0], c[1], c[2]);
-        EXPECT_EQ(target.strokes, Strokes{});
+        EXPECT_EQ(target.painted, "");
     }
-}
-
-TEST(Shapes, TextIsCentredInHeightOnly) {
-    RecordingTarget target;
-    Draw_String(target, 500, 1000, "h1");
-    EXPECT_EQ(target.strokes, Strokes{"500,880 h1"});  // 240 high
 }
 
 TEST(Painting, StretchesTheFrameOverTheBoxInOrderOfKinds) {
@@ -139,20 +97,18 @@ TEST(Painting, StretchesTheFrameOverTheBoxInOrderOfKinds) {
     picture.AddString({{4747.5F, 3967.5F}, "B"});
     picture.AddRec({{0, 0}, {9495, 7935}});
     picture.AddLine({{9495, 0}, {4747.5F, 7935}});
-    const Strokes edges = {"0,1000 5500,1000", "5500,1000 5500,4917", "5500,4917 0,4917", "0,4917 0,1000"};
-
-    RecordingTarget target;
-    picture.PrintPic(target, kFrame, {0, 1000, 5500, 4917});
-    EXPECT_EQ(target.strokes,
-              (Strokes{"5500,1000 2750,4917", edges[0], edges[1], edges[2], edges[3], "2750,2838.5 B"}));
-    RecordingTarget bare;
-    picture.OutMCNoStr(bare, kFrame, {0, 1000, 5500, 4917});
-    EXPECT_EQ(bare.strokes, (Strokes{"5500,1000 2750,4917", edges[0], edges[1], edges[2], edges[3]}));
-
-    RecordingTarget mirrored;
+    const std::string strokes =
+        "5500,1000 2750,4917; "
+        "0,1000 5500,1000; 5500,1000 5500,4917; 5500,4917 0,4917; 0,4917 0,1000";
+    const Box box{0, 1000, 5500, 4917};
+    RecordingTarget all, bare, mirrored;
+    picture.PrintPic(all, kFrame, box);
+    EXPECT_EQ(all.painted, strokes + "; 2750,2838.5 B");  // half of 240 above the middle
+    picture.OutMCNoStr(bare, kFrame, box);
+    EXPECT_EQ(bare.painted, strokes);
     picture.OutMCNoStr(mirrored, kFrame, {1000, 0, 0, 1000});
-    EXPECT_EQ(mirrored.strokes[0], "0,0 500,1000");
-    EXPECT_THROW(picture.PrintPic(bare, {0, 0, 0, 7935}, kFrame), NumericError);
+    EXPECT_EQ(mirrored.painted.substr(0, 13), "0,0 500,1000;");
+    EXPECT_THROW(picture.PrintPic(bare, {0, 0, 0, 7935}, box), NumericError);
 }
 
 TEST(Painting, WingsAndStubsKeepTheirSizeInAPreview) {
@@ -161,8 +117,8 @@ TEST(Painting, WingsAndStubsKeepTheirSizeInAPreview) {
     picture.AddDim({{0, 0}, {2400, 0}, {1000, 1200}});
     RecordingTarget target;
     picture.PrintPic(target, kFrame, {0, 0, 949.5F, 793.5F});
-    EXPECT_EQ(target.strokes[0], "0,120 0,306");
-    EXPECT_EQ(target.strokes[5], "240,120 210,176");
+    EXPECT_EQ(target.ends[0], (Point{0, 120 + 186}));
+    EXPECT_EQ(target.ends[5], (Point{210, 120 + 56}));
 }
 
 }  // namespace

@@ -72,7 +72,7 @@ std::optional<Outcome> WalkAll(std::int16_t stock, const CTable& pool, float rat
 }
 
 std::optional<Outcome> Search(std::int16_t stock, const CTable& pool, float ratio, std::int16_t records) {
-    RecordingNotice notice;
+    test::RecordingNotice notice;
     PatternSearch search(notice, nullptr, records);
     try {
         EXPECT_EQ(search.FindBestPattern(stock, pool, ratio), Result::Pattern);
@@ -152,7 +152,7 @@ TEST(PatternSearchTest, HoldsNinetyNinePieces) {
     CTable pool;
     for (int i = 0; i < 120; ++i) pool.AddItem(10);
     pool.AddItem(15);
-    RecordingNotice notice;
+    test::RecordingNotice notice;
     PatternSearch search(notice, nullptr);
     ASSERT_EQ(search.FindBestPattern(1010, pool, 1), Result::Pattern);
     EXPECT_EQ(TextOf(search.Found()), "10*98+15*1+");
@@ -160,7 +160,7 @@ TEST(PatternSearchTest, HoldsNinetyNinePieces) {
 }
 
 TEST(PatternSearchTest, ReportsBadDataAndRefusesWhatHasNoAnswer) {
-    RecordingNotice notice;
+    test::RecordingNotice notice;
     PatternSearch search(notice, nullptr);
     const auto find = [&search](std::int16_t stock, const std::vector<std::int16_t>& values, float ratio) {
         CTable pool;

@@ -5,7 +5,7 @@
 
 #include "platform/notice.h"
 
-namespace kalvane {
+namespace kalvane::test {
 
 /// Keeps what the operator would have been shown, as "title|text".
 class RecordingNotice : public Notice {
@@ -19,4 +19,4 @@ class RecordingNotice : public Notice {
     std::vector<NoticeIcon> icons;
 };
 
-}  // namespace kalvane
+}  // namespace kalvane::test

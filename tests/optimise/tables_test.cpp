@@ -126,7 +126,7 @@ TEST(CTable02Test, FindsTheLongestThatFits) {
     lengths.Create(4);
     std::int16_t position = 0;
     for (const int value : {2020, 1520, 820, 300}) lengths.AddNew(Checked16(value), 5, ++position);
-    RecordingNotice notice;
+    test::RecordingNotice notice;
     EXPECT_EQ(lengths.FindJustFor(6000, 6000, notice), 1);
     EXPECT_EQ(lengths.FindJustFor(2019, 6000, notice), 2);
     EXPECT_EQ(lengths.FindJustFor(299, 6000, notice), CTable02::kNothingFits);

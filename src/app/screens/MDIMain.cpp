@@ -34,6 +34,7 @@ namespace {
 constexpr std::int16_t kWindCheckAtStart = 1;
 constexpr QSize kFirstSize(1180, 800);
 constexpr int kToolbarIcon = 32;
+constexpr int kToolbarButtonWidth = 72;
 const QString kGeometryKey = QStringLiteral("MDIMain.geometry");
 
 }  // namespace
@@ -209,7 +210,9 @@ void MDIMain::MakeToolbar() {
         if (!toolbar->actions().isEmpty()) toolbar->addSeparator();
         QAction* action = MakeAction(key, entry);
         toolbar->addAction(action);
-        toolbar->widgetForAction(action)->setObjectName(key);
+        QWidget* button = toolbar->widgetForAction(action);
+        button->setObjectName(key);
+        button->setMinimumWidth(kToolbarButtonWidth);
         if (key == close.name) {
             action->setToolTip(QStringLiteral("关闭当前窗口；没有打开的窗口时退出程序"));
         }

@@ -1,0 +1,71 @@
+#include "formula/labels.h"
+
+#include <utility>
+
+#include "formula/cal.h"
+#include "numeric/number.h"
+#include "numeric/text.h"
+
+namespace kalvane {
+namespace {
+
+/// Reads name and value of every row; a cursor without rows gives an empty set.
+LabelSet ReadLabels(Cursor& rows, std::string_view nameColumn, std::string_view valueColumn) {
+    LabelSet labels;
+    const int name = rows.FieldIndex(nameColumn);
+    const int value = rows.FieldIndex(valueColumn);
+    for (; !rows.Eof(); rows.MoveNext()) {
+        labels.names.push_back(rows.Field(name).Text());
+        labels.values.push_back(rows.Field(value).Text());
+    }
+    labels.px.resize(labels.names.size());
+    labels.py.resize(labels.names.size());
+    labels.last = Checked16(static_cast<std::int64_t>(labels.names.size()) - 1);
+    SortLabelsByLength(labels.names, labels.values, labels.px, labels.py, labels.last);
+    return labels;
+}
+
+}  // namespace
+
+LabelSet LoadPlainLabels(Connection& connection, std::string_view windowId) {
+    Cursor rows = connection.OpenCursor("Select * from 标注 where MCNUM=" + std::string(windowId));
+    return ReadLabels(rows, "MC", "schar");
+}
+
+void LoadMemberLabels(Connection& connection, std::string_view windowId, std::string_view cbn,
+                      std::string_view cmc, LabelSet& labels, std::int16_t& count) {
+    Cursor rows =
+        connection.OpenCursor("Select * from 标注2 where MCBN=" + std::string(windowId) +
+                              " and CBN=" + std::string(cbn) + " and CMC='" + std::string(cmc) + "'");
+    if (rows.Eof()) return;
+    count = RoundToInt16(rows.Field("Count").Number());
+    labels = ReadLabels(rows, "MC", "MCZ");
+}
+
+void SortLabelsByLength(std::vector<std::string>& names, std::vector<std::string>& values,
+                        std::vector<std::int32_t>& px, std::vector<std::int32_t>& py, std::int16_t last) {
+    if (last < 1) return;
+    const auto count = static_cast<std::size_t>(last) + 1;
+    for (std::size_t i = 0; i < count; ++i) {
+        names[i] = Trim(names[i]);
+        values[i] = Trim(values[i]);
+    }
+    for (std::size_t i = 0; i + 1 < count; ++i) {
+        for (std::size_t j = i + 1; j < count; ++j) {
+            if (CharCount(names[j]) <= CharCount(names[i])) continue;
+            std::swap(names[i], names[j]);
+            std::swap(values[i], values[j]);
+            std::swap(px[i], px[j]);
+            std::swap(py[i], py[j]);
+        }
+    }
+}
+
+float EvalWithLabels(std::string_view formula, const std::vector<std::string>& names,
+                     const std::vector<std::string>& values, std::int16_t last) {
+    std::string text(formula);
+    for (std::size_t i = 0; static_cast<int>(i) <= last; ++i) ReplaceInPlace(text, names[i], values[i]);
+    return Cal().CalExpress(text);
+}
+
+}  // namespace kalvane

@@ -1,0 +1,47 @@
+#include "project/screens/entry_screen.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include "ui/dialogs.h"
+#include "ui/guard.h"
+
+namespace kalvane {
+
+void EntryScreen::EnterMovesTo(QWidget* control, QWidget* next) {
+    OnEnter(control, [next] {
+        if (auto* box = qobject_cast<QLineEdit*>(next)) {
+            FocusAll(box);
+        } else {
+            next->setFocus();
+        }
+    });
+}
+
+void EntryScreen::FocusAll(QLineEdit* box) {
+    box->setFocus();
+    box->selectAll();
+}
+
+bool EntryScreen::AllFilled(std::span<QLineEdit* const> boxes) {
+    for (QLineEdit* box : boxes) {
+        if (!box->text().isEmpty()) continue;
+        UseDialogs().Message(this, QStringLiteral("数据不能为空！"), QStringLiteral("提示"),
+                             NoticeIcon::Information);
+        box->setFocus();
+        return false;
+    }
+    return true;
+}
+
+void EntryScreen::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        Screen::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    // A copy: the action may end the screen.
+    if (const auto action = enter_.value(focusWidget())) Guarded(this, action);
+}
+
+}  // namespace kalvane

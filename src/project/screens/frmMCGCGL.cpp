@@ -1,0 +1,136 @@
+#include "project/screens/frmMCGCGL.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/app_state.h"
+#include "project/screens/command_buttons.h"
+#include "project/screens/frmInputGC.h"
+#include "project/screens/frmOpenGC.h"
+#include "store/field_slots.h"
+#include "ui/dialogs.h"
+#include "ui/guard.h"
+#include "ui/report_list.h"
+#include "ui/text.h"
+
+namespace kalvane {
+namespace {
+
+constexpr QSize kFirstSize(900, 520);
+const QString kTitle = QStringLiteral("提示");
+
+QStringList ToRow(const Project& project) {
+    return {ToQt(project.name), ToQt(project.place), ToQt(project.client), ToQt(project.contractNumber),
+            ToQt(project.number)};
+}
+
+Project ToProject(const QStringList& row) {
+    return {FromQt(row[4]), FromQt(row[3]), FromQt(row[0]), FromQt(row[1]), FromQt(row[2])};
+}
+
+}  // namespace
+
+frmMCGCGL::frmMCGCGL(QWidget* parent)
+    : Screen(QStringLiteral("frmMCGCGL"), QStringLiteral("塑钢工程管理"), parent),
+      lvw_(new ReportList(QStringLiteral("Lvw"),
+                          {QStringLiteral("工程名称"), QStringLiteral("工程地点"), QStringLiteral("甲方单位"),
+                           QStringLiteral("合同编号"), QStringLiteral("编号")},
+                          this)) {
+    QPushButton* add = MakeButton("CmdAdd", QStringLiteral("新建工程"), this, QStringLiteral("Insert"));
+    QPushButton* edit = MakeButton("CmdEdit", QStringLiteral("编辑工程"), this, QStringLiteral("F2"));
+    QPushButton* del = MakeButton("CmdDel", QStringLiteral("删除工程"), this,
+                                  QStringLiteral("删除工程及其全部门窗和合同 (Delete)"));
+    QPushButton* open =
+        MakeButton("CmdOpen", QStringLiteral("打开工程"), this, QStringLiteral("Enter 或双击"));
+    QPushButton* contract = MakeButton("CmdOpenHT", QStringLiteral("打开合同"), this);
+    QPushButton* copy = MakeButton("CmdCopyGCMC", QStringLiteral("复制工程门窗"), this);
+    QPushButton* exit = MakeButton("CmdExit", QStringLiteral("退  出"), this, QStringLiteral("Esc"));
+    MarkAsComing(contract);
+    MarkAsComing(copy);
+    open->setDefault(true);
+
+    auto* buttons = new QVBoxLayout;
+    for (QPushButton* button : {add, edit, del, open, contract, copy}) buttons->addWidget(button);
+    buttons->addStretch();
+    buttons->addWidget(exit);
+    auto* all = new QHBoxLayout(this);
+    all->addWidget(lvw_, 1);
+    all->addLayout(buttons);
+    resize(kFirstSize);
+
+    PressOnKey(lvw_, Qt::Key_Insert, add);
+    PressOnKey(lvw_, Qt::Key_F2, edit);
+    PressOnKey(lvw_, Qt::Key_Delete, del);
+    OnSignal(add, &QPushButton::clicked, this, [this] { Add(); });
+    OnSignal(edit, &QPushButton::clicked, this, [this] { Edit(); });
+    OnSignal(del, &QPushButton::clicked, this, [this] { Delete(); });
+    OnSignal(open, &QPushButton::clicked, this, [this] { Open(); });
+    OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Open(); });
+    OnSignal(exit, &QPushButton::clicked, this, [this] { close(); });
+    Guarded(this, [this] { Load(); });
+}
+
+void frmMCGCGL::showEvent(QShowEvent* event) {
+    Screen::showEvent(event);
+    lvw_->sortItems(0, Qt::AscendingOrder);
+}
+
+void frmMCGCGL::Load() {
+    for (const Project& project : ListProjects(App().Main())) lvw_->AddRow(ToRow(project));
+}
+
+void frmMCGCGL::Add() {
+    const auto save = [](Project& project) { project.number = AddProject(App().Main(), project); };
+    const std::optional<Project> project = Input(QStringLiteral("添加->工程"), {}, save);
+    if (project) lvw_->SelectRow(lvw_->AddRow(ToRow(*project)));
+}
+
+void frmMCGCGL::Edit() {
+    const std::optional<Project> before = Selected(QStringLiteral("无选取所需编辑的对象！"));
+    if (!before) return;
+    const auto save = [](const Project& project) { UpdateProject(App().Main(), project); };
+    const std::optional<Project> project = Input(QStringLiteral("编辑->工程"), *before, save);
+    if (!project) return;
+    lvw_->SetRow(lvw_->SelectedRow(), ToRow(*project));
+    if (frmOpenGC* opened = frmOpenGC::OfProject(project->number)) opened->SetProject(*project);
+}
+
+void frmMCGCGL::Delete() {
+    const std::optional<Project> project = Selected(QStringLiteral("无选取所需删除的对象！"));
+    if (!project) return;
+    const QString question = QStringLiteral("确认要删除工程：%1吗？").arg(ToQt(project->name));
+    if (!UseDialogs().AskYesNo(this, question, kTitle)) return;
+    DeleteProject(App().Main(), project->number);
+    lvw_->RemoveRow(lvw_->SelectedRow());
+    // A window added there later would belong to no project.
+    if (frmOpenGC* opened = frmOpenGC::OfProject(project->number)) opened->close();
+}
+
+void frmMCGCGL::Open() {
+    const std::optional<Project> project = Selected(QStringLiteral("无打开的工程！"));
+    if (project) frmOpenGC::Open(*project);
+}
+
+std::optional<Project> frmMCGCGL::Selected(const QString& complaint) {
+    const int row = lvw_->SelectedRow();
+    if (row < 0) {
+        UseDialogs().Message(this, complaint, kTitle, NoticeIcon::Information);
+        return std::nullopt;
+    }
+    return ToProject(lvw_->Row(row));
+}
+
+std::optional<Project> frmMCGCGL::Input(const QString& title, Project project,
+                                        const std::function<void(Project&)>& save) {
+    for (;;) {
+        frmInputGC input(title, this);
+        input.Fill(project);
+        if (input.exec() != QDialog::Accepted) return std::nullopt;
+        const FieldSlots& slots = SharedFieldSlots();
+        project = {project.number, slots[1], slots[2], slots[3], slots[4]};
+        if (Guarded(this, [&] { save(project); })) return project;
+    }
+}
+
+}  // namespace kalvane

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "project/project_list.h"
+#include "ui/screen.h"
+
+namespace kalvane {
+
+class ReportList;
+
+/// The list of projects.
+class frmMCGCGL : public Screen {
+    Q_OBJECT
+
+  public:
+    explicit frmMCGCGL(QWidget* parent);
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    void Load();
+    void Add();
+    void Edit();
+    void Delete();
+    void Open();
+
+    /// The project of the selected row; with no selection says `complaint`.
+    std::optional<Project> Selected(const QString& complaint);
+    /// Has a project typed in and saved; nothing when cancelled. What the store refuses comes up again, so
+    /// that nothing typed is lost.
+    std::optional<Project> Input(const QString& title, Project project,
+                                 const std::function<void(Project&)>& save);
+
+    ReportList* lvw_;
+};
+
+}  // namespace kalvane

@@ -1,0 +1,175 @@
+#include "project/screens/frmOpenGC.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/app_state.h"
+#include "optimise/screens/frmCreate02.h"
+#include "platform/settings_store.h"
+#include "project/screens/command_buttons.h"
+#include "project/screens/frmAddGCMC.h"
+#include "project/screens/window_rows.h"
+#include "ui/dialogs.h"
+#include "ui/guard.h"
+#include "ui/main_frame.h"
+#include "ui/report_list.h"
+#include "ui/text.h"
+
+namespace kalvane {
+namespace {
+constexpr QSize kFirstSize(980, 560);
+constexpr int kNumberColumn = 8;
+const QString kScreenName = QStringLiteral("frmOpenGC");
+const QString kTitle = QStringLiteral("提示");
+constexpr std::string_view kStartNumberKey = "AUTONUM";
+}  // namespace
+
+frmOpenGC::frmOpenGC(QWidget* parent)
+    : Screen(kScreenName, QStringLiteral("工程名称->"), parent),
+      lvw_(new ReportList(QStringLiteral("Lvw"), WindowColumns(), this)) {
+    QPushButton* add = MakeButton("CmdAdd", QStringLiteral("添加门窗"), this, QStringLiteral("Insert"));
+    QPushButton* composite = MakeButton("CmcZHMC", QStringLiteral("添加组合门窗"), this);
+    QPushButton* edit =
+        MakeButton("CmdEdit", QStringLiteral("编辑门窗"), this, QStringLiteral("Enter 或双击"));
+    QPushButton* del = MakeButton("CmdDel", QStringLiteral("删除门窗"), this, QStringLiteral("Delete"));
+    QPushButton* number = MakeButton("CmdAutoNum", QStringLiteral("设置构件表号"), this);
+    QPushButton* sheets = MakeButton("CmdPrint", QStringLiteral("构件表&O"), this);
+    QPushButton* totals = MakeButton("CmdTotal", QStringLiteral("统计决算"), this);
+    QPushButton* optimise =
+        MakeButton("cmdYH", QStringLiteral("优化"), this, QStringLiteral("选择本工程的门窗，优化下料"));
+    QPushButton* exit = MakeButton("CmdExit", QStringLiteral("退出"), this, QStringLiteral("Esc"));
+    for (QPushButton* button : {composite, sheets, totals}) MarkAsComing(button);
+    edit->setDefault(true);
+
+    auto* buttons = new QVBoxLayout;
+    for (QPushButton* button : {add, composite, edit, del}) buttons->addWidget(button);
+    buttons->addSpacing(18);
+    for (QPushButton* button : {number, sheets, totals, optimise}) buttons->addWidget(button);
+    buttons->addStretch();
+    buttons->addWidget(exit);
+    auto* all = new QHBoxLayout(this);
+    all->addWidget(lvw_, 1);
+    all->addLayout(buttons);
+    resize(kFirstSize);
+
+    PressOnKey(lvw_, Qt::Key_Insert, add);
+    PressOnKey(lvw_, Qt::Key_Delete, del);
+    OnSignal(add, &QPushButton::clicked, this, [this] { Add(); });
+    OnSignal(edit, &QPushButton::clicked, this, [this] { Edit(); });
+    OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Edit(); });
+    OnSignal(del, &QPushButton::clicked, this, [this] { Delete(); });
+    OnSignal(number, &QPushButton::clicked, this, [this] { AskStartNumber(); });
+    OnSignal(optimise, &QPushButton::clicked, this, [this] { Optimise(); });
+    OnSignal(exit, &QPushButton::clicked, this, [this] { close(); });
+}
+
+frmOpenGC* frmOpenGC::Shown() {
+    for (QWidget* widget : QApplication::allWidgets()) {
+        auto* screen = qobject_cast<frmOpenGC*>(widget);
+        if (screen != nullptr && screen->isVisible()) return screen;
+    }
+    return nullptr;
+}
+
+void frmOpenGC::Open(const Project& project) {
+    if (frmOpenGC* shown = Shown()) {
+        shown->SetProject(project);
+        ActivateScreen(kScreenName);
+        return;
+    }
+    auto screen = std::make_unique<frmOpenGC>(nullptr);
+    screen->SetProject(project);
+    screen.release()->ShowModeless();  // deletes itself when it is closed
+}
+
+frmOpenGC* frmOpenGC::OfProject(const std::string& number) {
+    frmOpenGC* shown = Shown();
+    return shown != nullptr && shown->project_.number == number ? shown : nullptr;
+}
+
+void frmOpenGC::SetProject(const Project& project) {
+    project_ = project;
+    App().currentProjectId = project.number;
+    App().currentProjectName = project.name;
+    setWindowTitle(QStringLiteral("工程->") + ToQt(project.name));
+    Reload(SelectedNumber());
+}
+
+void frmOpenGC::Reload(const QString& selected) {
+    const std::vector<WindowEntry> windows = ListWindows(App().Main(), project_.number);
+    lvw_->Clear();
+    for (const WindowEntry& window : windows) {
+        const int row = lvw_->AddRow(ToRow(window));
+        if (ToQt(window.number) == selected) lvw_->SelectRow(row);
+    }
+}
+
+QString frmOpenGC::SelectedNumber() const {
+    const int row = lvw_->SelectedRow();
+    return row < 0 ? QString() : lvw_->Text(row, kNumberColumn);
+}
+
+void frmOpenGC::Add() {
+    frmAddGCMC screen(this);
+    screen.StartAdding(project_.number);
+    RunWindowScreen(screen);
+}
+
+void frmOpenGC::Edit() {
+    const int row = lvw_->SelectedRow();
+    if (row < 0) {
+        UseDialogs().Message(this, QStringLiteral("无选取所要编辑的门窗！"), kTitle, NoticeIcon::Information);
+        return;
+    }
+    const WindowEntry window = ToWindow(lvw_->Row(row));
+    if (window.IsComposite()) {
+        UseDialogs().Message(this, QStringLiteral("组合门窗的编辑将在后续版本中提供。"), kTitle,
+                             NoticeIcon::Information);
+        return;
+    }
+    frmAddGCMC screen(this);
+    screen.StartEditing(window);
+    RunWindowScreen(screen);
+}
+
+void frmOpenGC::RunWindowScreen(frmAddGCMC& screen) {
+    connect(&screen, &frmAddGCMC::WindowSaved, this, &frmOpenGC::Reload);
+    screen.exec();
+    // A window whose labels were refused is in the store all the same.
+    Reload(SelectedNumber());
+}
+
+void frmOpenGC::Delete() {
+    const int row = lvw_->SelectedRow();
+    if (row < 0) {
+        UseDialogs().Message(this, QStringLiteral("在当前工程中无删除的门窗！"), kTitle,
+                             NoticeIcon::Information);
+        return;
+    }
+    const WindowEntry window = ToWindow(lvw_->Row(row));
+    const QString question = QStringLiteral("确认要删除门窗：%1吗？").arg(ToQt(window.name));
+    if (!UseDialogs().AskYesNo(this, question, kTitle)) return;
+    DeleteWindow(App().Main(), window.number);
+    lvw_->RemoveRow(row);
+}
+
+void frmOpenGC::AskStartNumber() {
+    SettingsStore& settings = *App().settings;
+    const std::string current = settings.Read(kSettingsApplication, kSectionMain, kStartNumberKey, "1");
+    // A cancelled box stores an empty number.
+    const QString number =
+        UseDialogs()
+            .InputText(this, QStringLiteral("输入"), QStringLiteral("输入构件表的起始号码："), ToQt(current))
+            .value_or(QString());
+    settings.Save(kSettingsApplication, kSectionMain, kStartNumberKey, FromQt(number));
+}
+
+void frmOpenGC::Optimise() {
+    App().YHScheme = 0;
+    App().optimiseProjectName = project_.name;
+    frmCreate02(project_.number, this).exec();
+}
+
+}  // namespace kalvane

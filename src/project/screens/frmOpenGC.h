@@ -1,0 +1,45 @@
+#pragma once
+
+#include "project/project_list.h"
+#include "project/project_windows.h"
+#include "ui/screen.h"
+
+namespace kalvane {
+
+class ReportList;
+class frmAddGCMC;
+
+/// The opened project with its windows. One at a time, as there is one current project.
+class frmOpenGC : public Screen {
+    Q_OBJECT
+
+  public:
+    explicit frmOpenGC(QWidget* parent);
+
+    /// Shows the project in the screen that is open, or else in a new one.
+    static void Open(const Project& project);
+    /// The open screen if it shows that project, else null.
+    static frmOpenGC* OfProject(const std::string& number);
+
+    /// Makes it the current project and lists its windows. Throws StoreError.
+    void SetProject(const Project& project);
+
+  private:
+    static frmOpenGC* Shown();
+
+    void Add();
+    void Edit();
+    void Delete();
+    void AskStartNumber();
+    void Optimise();
+    /// Runs the screen of one window, and lists the windows anew after every change it makes.
+    void RunWindowScreen(frmAddGCMC& screen);
+    /// Lists the windows as they are in the store and selects the one of that number, if it is there.
+    void Reload(const QString& selected);
+    QString SelectedNumber() const;
+
+    ReportList* lvw_;
+    Project project_;
+};
+
+}  // namespace kalvane

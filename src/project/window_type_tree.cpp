@@ -1,0 +1,43 @@
+#include "project/window_type_tree.h"
+
+#include "store/helpers.h"
+
+namespace kalvane {
+namespace {
+
+constexpr std::size_t kDrawingSlot = 4;  // 图号 is the fifth column of 门窗
+
+std::vector<TypeNode> LoadLevel(Connection& connection, const char* kind, const std::string& select) {
+    std::vector<TypeNode> nodes;
+    for (Cursor row = connection.OpenCursor(select); !row.Eof(); row.MoveNext()) {
+        nodes.push_back(
+            {row.Field("名称").TextOrEmpty(), MakeKey(kind, row.Field("编号").TextOrEmpty()), {}});
+    }
+    return nodes;
+}
+
+}  // namespace
+
+bool IsWindowType(std::string_view tag) {
+    return KeyKind(tag) == "3";
+}
+
+std::vector<TypeNode> LoadWindowTypes(Connection& connection) {
+    std::vector<TypeNode> makers = LoadLevel(connection, "1", "Select * from 门窗厂家 order by 编号");
+    for (TypeNode& maker : makers) {
+        maker.children = LoadLevel(
+            connection, "2", "Select * from 门窗系列 Where 厂家编号=" + KeyId(maker.tag) + " order by 编号");
+        for (TypeNode& series : maker.children) {
+            series.children = LoadLevel(
+                connection, "3", "Select * from 门窗 Where 系列编号=" + KeyId(series.tag) + " order by 名称");
+        }
+    }
+    return makers;
+}
+
+std::string DrawingOfWindowType(Connection& connection, std::string_view typeNumber, FieldSlots& slots) {
+    LoadRowById(connection, "门窗", typeNumber, slots);
+    return slots[kDrawingSlot];
+}
+
+}  // namespace kalvane

@@ -1,0 +1,125 @@
+#pragma once
+
+#include <cmath>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "numeric/number.h"
+#include "numeric/text.h"
+
+namespace kalvane::test {
+
+/// The evaluator read word for word: every entry is a text, every operation goes through one. Slow and
+/// plain, to hold the real machine against. `endless` is set instead of looping for ever.
+class LiteralCal {
+  public:
+    bool endless = false;
+
+    float CalExpress(const std::string& formula) {
+        std::string text = Fold(UpperCase(formula)) + ")";
+        std::vector<std::string> raw;
+        const auto enqueue = [](std::vector<std::string>& queue, const std::string& entry) {
+            if (queue.size() < 100) queue.push_back(entry);
+        };
+        Push("(");
+        std::string number;
+        for (const char c : text) {
+            if (c == ' ') continue;
+            if ((c >= '0' && c <= '9') || c == '.') {
+                number += c;
+                continue;
+            }
+            enqueue(raw, number);
+            number.clear();
+            const std::string entry(1, c);
+            if (c == '+' || c == '-') {
+                while (Top() == "*" || Top() == "/" || Top() == "+" || Top() == "-") enqueue(raw, Pop());
+                Push(entry);
+            } else if (c == '*' || c == '/') {
+                while (Top() == "*" || Top() == "/") enqueue(raw, Pop());
+                Push(entry);
+            } else if (c == '(' || IsCode(entry)) {
+                Push(entry);
+            } else if (c == ')') {
+                for (;;) {
+                    if (stack_.empty()) {
+                        endless = true;
+                        return 0;
+                    }
+                    const std::string popped = Pop();
+                    if (popped != "(") enqueue(raw, popped);
+                    if (popped == "(" || IsCode(popped)) break;
+                }
+            }
+        }
+        for (const std::string& token : raw) {
+            if (!token.empty()) Take(token);
+        }
+        const double value = Val(Pop());
+        if (std::fabs(value) <= static_cast<double>(std::numeric_limits<float>::max())) {
+            last_ = static_cast<float>(value);
+        }
+        return last_;
+    }
+
+  private:
+    static bool IsCode(const std::string& entry) {
+        return entry.size() == 1 && entry[0] >= 'A' && entry[0] <= 'G';
+    }
+
+    static std::string Fold(std::string text) {
+        const char* names[] = {"SIN", "COS", "ATN", "EXP", "LOG", "SQR", "TAN"};
+        const char* codes[] = {"E", "B", "A", "C", "D", "F", "G"};
+        for (int i = 0; i < 7; ++i) {
+            while (text.find(names[i]) != std::string::npos) {
+                const std::size_t at = text.find(names[i]);
+                const std::size_t open = text.find('(', at);
+                if (open == std::string::npos) return "";
+                text = text.substr(0, at) + codes[i] + text.substr(open + 1);
+            }
+        }
+        return text;
+    }
+
+    void Take(const std::string& token) {
+        if (IsNumeric(token)) {
+            Push(token);
+            return;
+        }
+        double value = std::numeric_limits<double>::quiet_NaN();
+        if (token == "+" || token == "-" || token == "*" || token == "/") {
+            const double right = Val(Pop());
+            const double left = Val(Pop());
+            if (token == "+") value = left + right;
+            if (token == "-") value = left - right;
+            if (token == "*") value = left * right;
+            if (token == "/") value = left / right;
+        } else if (IsCode(token)) {
+            const double x = Val(Pop());
+            if (token == "A") value = std::atan(x) / 3.14 * 180;
+            if (token == "B") value = std::cos(x / 180 * 3.14);
+            if (token == "C") value = std::exp(x);
+            if (token == "D") value = std::log(x);
+            if (token == "E") value = std::sin(x / 180 * 3.14);
+            if (token == "F") value = std::sqrt(x);
+            if (token == "G") value = std::tan(x / 180 * 3.14);
+        }
+        if (std::isfinite(value)) Push(" " + ShortText(value));
+    }
+
+    void Push(const std::string& entry) {
+        if (stack_.size() < 101) stack_.push_back(entry);
+    }
+    std::string Top() const { return stack_.empty() ? "NULL" : stack_.back(); }
+    std::string Pop() {
+        std::string entry = Top();
+        if (!stack_.empty()) stack_.pop_back();
+        return entry;
+    }
+
+    std::vector<std::string> stack_;
+    float last_ = 0;
+};
+
+}  // namespace kalvane::test

@@ -1,0 +1,41 @@
+#include "platform/settings_store.h"
+
+#include <fstream>
+
+#include "platform/error.h"
+#include "platform/files.h"
+#include "support/temp_folder.h"
+
+namespace kalvane {
+namespace {
+
+TEST(SettingsStore, KeepsTextsOverARestart) {
+    const test::TempFolder folder;
+    const auto file = folder / "deep/settings";
+    {
+        SettingsStore store(file);
+        EXPECT_EQ(store.Read("Tesmar", "KALVANE", "FYOPTION", "1"), "1");
+        EXPECT_EQ(store.Read("Tesmar", "KALVANE", "FYOPTION", "0"), "0");
+        store.Save("Tesmar", "KALVANE", "DW", "a=b\\n\r\n塑钢 ");
+        store.Save("Norvex", "Param", "DW", "");
+    }
+    std::ofstream(file, std::ios::app) << "a damaged line\n";
+    const SettingsStore again(file);
+    EXPECT_EQ(again.Read("Tesmar", "KALVANE", "DW", "x"), "a=b\\n\r\n塑钢 ");
+    EXPECT_EQ(again.Read("Norvex", "Param", "DW", "x"), "");
+}
+
+TEST(Files, AFailedWriteLeavesTheOldFile) {
+    const test::TempFolder folder;
+    WriteFileAtomically(folder / "a.MC", "old");
+    EXPECT_THROW(WriteFileAtomically(folder / "missing/a.MC", "new"), FileError);
+    std::filesystem::create_directory(folder / "d");
+    EXPECT_THROW(WriteFileAtomically(folder / "d", "new"), FileError);
+    EXPECT_EQ(ReadFile(folder / "a.MC"), "old");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 2);
+    EXPECT_THROW(ReadFile(folder / "d"), FileError);
+    EXPECT_THROW(ReadFile(folder / "none"), FileError);
+}
+
+}  // namespace
+}  // namespace kalvane

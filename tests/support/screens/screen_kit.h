@@ -1,0 +1,136 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QTimer>
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+#include "app/app_state.h"
+#include "app/store_setup.h"
+#include "platform/settings_store.h"
+#include "store/field_slots.h"
+#include "store/store_files.h"
+#include "support/screens/scripted_dialogs.h"
+#include "support/temp_folder.h"
+
+namespace kalvane::test {
+
+/// A control by its name; a missing one fails the test, and the test program ends.
+template <typename Control>
+Control* Find(const QWidget* screen, const char* name) {
+    auto* control = screen->findChild<Control*>(QLatin1String(name));
+    if (control == nullptr) {
+        ADD_FAILURE() << screen->objectName().toStdString() << " has no " << name;
+        std::abort();
+    }
+    return control;
+}
+
+/// What the operator does at modal screens: one step for each screen that comes up, told by its name, in
+/// order. A step may open the next screen, whose step then runs inside it. A step that leaves its screen
+/// open has it closed behind it.
+class ModalScript {
+  public:
+    using Work = std::function<void(QDialog&)>;
+
+    ModalScript& On(const char* screen, Work work) {
+        steps_.push_back({QLatin1String(screen), std::move(work)});
+        return *this;
+    }
+
+    /// Runs what opens the first screen and returns when all of it is over; every step must have run.
+    void Run(const std::function<void()>& open) {
+        QTimer::singleShot(0, &alive_, [this] { Poll(); });
+        open();
+        for (const Step& step : steps_) {
+            ADD_FAILURE() << "never came up: " << step.screen.toStdString();
+        }
+        steps_.clear();
+    }
+
+  private:
+    struct Step {
+        QString screen;
+        Work work;
+    };
+    static constexpr int kPollMilliseconds = 2;
+    static constexpr int kPatienceMilliseconds = 10000;
+
+    void Poll() {
+        if (steps_.empty()) return;
+        auto* screen = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        // Not the timer's own slot again: the step may wait in an event loop of its own.
+        QTimer::singleShot(kPollMilliseconds, &alive_, [this] { Poll(); });
+        if (screen == nullptr || screen->objectName() != steps_.front().screen) {
+            if (++waits_ * kPollMilliseconds > kPatienceMilliseconds) GiveUp(screen);
+            return;
+        }
+        waits_ = 0;
+        const Step step = std::move(steps_.front());
+        steps_.pop_front();
+        const QPointer<QDialog> open(screen);
+        step.work(*screen);
+        if (open != nullptr && open->isVisible()) open->reject();
+    }
+
+    void GiveUp(QDialog* screen) {
+        ADD_FAILURE() << "waited in vain for " << steps_.front().screen.toStdString();
+        waits_ = 0;
+        steps_.clear();
+        while (screen != nullptr) {
+            screen->done(QDialog::Rejected);
+            auto* next = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            screen = next != screen ? next : nullptr;
+        }
+    }
+
+    QObject alive_;  ///< polls end with the script
+    std::deque<Step> steps_;
+    int waits_ = 0;
+};
+
+/// A test of screens: a folder of its own with fresh stores as the program makes them, AppState as after the
+/// start of the program (logged in as Admin, both stores open), and dialogs that are scripted.
+class ScreenTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        for (const char* name : {kMainStoreName, kStockStoreName, kUserStoreName, kTemplateStoreName}) {
+            std::filesystem::copy_file(FreshStores() / name, folder_ / name);
+        }
+        AppState& state = App();
+        state.loginOK = true;
+        state.userName = "Admin";
+        state.userAuth = "111111111111";
+        state.folder = folder_.Path();
+        state.settings = &settings_;
+        state.mainConnection = std::make_unique<Connection>(folder_ / kMainStoreName, StoreKind::Main);
+        state.mainConnectionText = state.mainConnection->ConnectionText();
+        state.stockConnection = std::make_unique<Connection>(folder_ / kStockStoreName, StoreKind::Stock);
+        state.stockConnectionText = state.stockConnection->ConnectionText();
+    }
+
+    void TearDown() override {
+        App() = AppState();
+        SharedFieldSlots() = FieldSlots();
+    }
+
+    const TempFolder folder_;
+    SettingsStore settings_{folder_ / "settings"};
+    ScriptedDialogs dialogs_;
+
+  private:
+    /// Made once: filling the starter library takes longer than most tests.
+    static const TempFolder& FreshStores() {
+        static const TempFolder folder;
+        static const bool made = (CreateMissingStores(folder.Path()), true);
+        (void)made;
+        return folder;
+    }
+};
+
+}  // namespace kalvane::test
