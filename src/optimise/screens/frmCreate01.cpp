@@ -1,0 +1,65 @@
+#include "optimise/screens/frmCreate01.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/app_state.h"
+#include "optimise/screens/frmCreate02.h"
+#include "project/project_list.h"
+#include "project/screens/command_buttons.h"
+#include "ui/dialogs.h"
+#include "ui/guard.h"
+#include "ui/report_list.h"
+#include "ui/text.h"
+
+namespace kalvane {
+namespace {
+constexpr QSize kFirstSize(760, 420);
+constexpr int kNameColumn = 0;
+constexpr int kNumberColumn = 3;
+}  // namespace
+
+frmCreate01::frmCreate01(QWidget* parent)
+    : Screen(QStringLiteral("frmCreate01"), QStringLiteral("创建优化之步骤1---->选择工程"), parent),
+      lvw_(new ReportList(QStringLiteral("LVW"),
+                          {QStringLiteral("工程名称"), QStringLiteral("工程地点"), QStringLiteral("甲方单位"),
+                           QStringLiteral("编号"), QStringLiteral("合同编号")},
+                          this)) {
+    QPushButton* next = MakeButton("CmdNext", QStringLiteral("&N 下一步"), this);
+    next->setDefault(true);
+    QPushButton* exit = MakeButton("Command1", QStringLiteral("&E 退出"), this);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(next);
+    buttons->addWidget(exit);
+    auto* rows = new QVBoxLayout(this);
+    rows->addWidget(lvw_, 1);
+    rows->addLayout(buttons);
+    resize(kFirstSize);
+
+    OnSignal(next, &QPushButton::clicked, this, [this] { Next(); });
+    OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Next(); });
+    OnSignal(exit, &QPushButton::clicked, this, [this] { reject(); });
+    Guarded(this, [this] { Load(); });
+}
+
+void frmCreate01::Load() {
+    for (const Project& project : ListProjects(App().Main())) {
+        lvw_->AddRow({ToQt(project.name), ToQt(project.place), ToQt(project.client), ToQt(project.number),
+                      ToQt(project.contractNumber)});
+    }
+}
+
+void frmCreate01::Next() {
+    const int row = lvw_->SelectedRow();
+    if (row < 0) {
+        UseDialogs().Message(this, QStringLiteral("无选择的工程"), QStringLiteral("提示"),
+                             NoticeIcon::Information);
+        return;
+    }
+    App().optimiseProjectName = FromQt(lvw_->Text(row, kNameColumn));
+    frmCreate02(FromQt(lvw_->Text(row, kNumberColumn)), this).exec();
+}
+
+}  // namespace kalvane

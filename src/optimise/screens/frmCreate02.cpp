@@ -1,0 +1,72 @@
+#include "optimise/screens/frmCreate02.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/app_state.h"
+#include "optimise/demand.h"
+#include "optimise/screens/frmCreate03.h"
+#include "optimise/screens/pick_lists.h"
+#include "project/screens/command_buttons.h"
+#include "ui/dialogs.h"
+#include "ui/guard.h"
+#include "ui/report_list.h"
+#include "ui/text.h"
+
+namespace kalvane {
+namespace {
+constexpr QSize kFirstSize(1000, 480);
+}  // namespace
+
+frmCreate02::frmCreate02(const std::string& projectNumber, QWidget* parent)
+    : EntryScreen(QStringLiteral("frmCreate02"), QStringLiteral("创建优化之步骤2---->选择门窗"), parent),
+      lists_(
+          new PickLists({QStringLiteral("门窗名称"), QStringLiteral("门窗类型"), QStringLiteral("制作尺寸"),
+                         QStringLiteral("樘数"), QStringLiteral("门窗编号"), QStringLiteral("编号")},
+                        {QStringLiteral("选入->"), QStringLiteral("<-移出"), QStringLiteral("全选>>"),
+                         QStringLiteral("<<清空")},
+                        this)) {
+    QPushButton* next = MakeButton("CmdNext", QStringLiteral("&N 下一步"), this);
+    next->setDefault(true);
+    QPushButton* exit = MakeButton("Command1", QStringLiteral("&E 退出"), this);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(next);
+    buttons->addWidget(exit);
+    auto* rows = new QVBoxLayout(this);
+    rows->addWidget(lists_, 1);
+    rows->addLayout(buttons);
+    resize(kFirstSize);
+
+    OnSignal(next, &QPushButton::clicked, this, [this] { Next(); });
+    OnSignal(exit, &QPushButton::clicked, this, [this] { reject(); });
+    Guarded(this, [&] { Load(projectNumber); });
+}
+
+void frmCreate02::Load(const std::string& projectNumber) {
+    for (const DemandWindow& window : ListDemandWindows(App().Main(), projectNumber)) {
+        lists_->Offered().AddRow({ToQt(window.name), ToQt(window.type), ToQt(window.makeSize),
+                                  ToQt(window.count), ToQt(window.windowType), ToQt(window.id)},
+                                 ToQt(window.id));
+    }
+}
+
+void frmCreate02::Next() {
+    const ReportList& chosen = lists_->Chosen();
+    if (chosen.RowCount() == 0) {
+        UseDialogs().Message(this, QStringLiteral("无选择所需优化门窗"), QStringLiteral("提示"),
+                             NoticeIcon::Information);
+        return;
+    }
+    std::vector<DemandWindow> windows;
+    for (int row = 0; row < chosen.RowCount(); ++row) {
+        const QStringList texts = chosen.Row(row);
+        windows.push_back({FromQt(texts[0]), FromQt(texts[1]), FromQt(texts[2]), FromQt(texts[3]),
+                           FromQt(texts[4]), FromQt(texts[5])});
+    }
+    GatherDemand(App().Main(), windows);
+    frmCreate03(this).exec();
+}
+
+}  // namespace kalvane
