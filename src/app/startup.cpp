@@ -21,17 +21,19 @@ std::int16_t ReadInt16(const SettingsStore& settings, std::string_view key, std:
     }
 }
 
-void OpenStore(std::unique_ptr<Connection>& connection, std::string& connectionText,
-               const std::filesystem::path& file, StoreKind kind, const std::string& failure,
-               Notice& notice) {
-    connection.reset();
-    connectionText.clear();
+/// Null after a failure, which is told.
+std::unique_ptr<Connection> OpenStore(const std::filesystem::path& file, StoreKind kind,
+                                      const std::string& name, Notice& notice) {
     try {
-        connection = std::make_unique<Connection>(file, kind);
-        connectionText = connection->ConnectionText();
+        return std::make_unique<Connection>(file, kind);
     } catch (const Error& error) {
-        notice.Show(failure + "\n" + error.what(), "出错！", NoticeIcon::Error);
+        notice.Show("‘" + name + "’数据库打开出错！\n" + error.what(), "出错！", NoticeIcon::Error);
+        return nullptr;
     }
+}
+
+std::string TextOf(const std::unique_ptr<Connection>& connection) {
+    return connection != nullptr ? connection->ConnectionText() : std::string();
 }
 
 }  // namespace
@@ -51,14 +53,18 @@ void ReadOptimiserOptions(AppState& state, Notice& notice) {
     }
 }
 
+std::unique_ptr<Connection> OpenUserStore(const AppState& state, Notice& notice) {
+    return OpenStore(state.folder / kUserStoreName, StoreKind::Users, "用户", notice);
+}
+
 void OpenMainStore(AppState& state, Notice& notice) {
-    OpenStore(state.mainConnection, state.mainConnectionText, state.folder / kMainStoreName, StoreKind::Main,
-              "‘材料’数据库打开出错！", notice);
+    state.mainConnection = OpenStore(state.folder / kMainStoreName, StoreKind::Main, "材料", notice);
+    state.mainConnectionText = TextOf(state.mainConnection);
 }
 
 void OpenStockStore(AppState& state, Notice& notice) {
-    OpenStore(state.stockConnection, state.stockConnectionText, state.folder / kStockStoreName,
-              StoreKind::Stock, "‘仓库’数据库打开出错！", notice);
+    state.stockConnection = OpenStore(state.folder / kStockStoreName, StoreKind::Stock, "仓库", notice);
+    state.stockConnectionText = TextOf(state.stockConnection);
 }
 
 }  // namespace kalvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "app/app_state.h"
 #include "platform/notice.h"
@@ -15,8 +16,11 @@ void ReadOutputSettings(AppState& state, std::int16_t windCheckDefault);
 /// Reads the optimiser's options. A stored number that does not fit leaves the defaults and is told.
 void ReadOptimiserOptions(AppState& state, Notice& notice);
 
-/// Open the stores of the start-up folder. A failure is told, and the program runs on without the store:
-/// AppState::Main and Stock then throw.
+/// Opens the user store for the screen that asks; null after a failure, which is told.
+std::unique_ptr<Connection> OpenUserStore(const AppState& state, Notice& notice);
+
+/// Open the shared stores of the start-up folder. A failure is told, and the program runs on without the
+/// store: AppState::Main and Stock then throw.
 void OpenMainStore(AppState& state, Notice& notice);
 void OpenStockStore(AppState& state, Notice& notice);
 

@@ -26,13 +26,23 @@ QString Screen::GeometryKey() const {
 
 void Screen::ShowModeless() {
     setAttribute(Qt::WA_DeleteOnClose);
-    if (QMdiArea* area = MainFrame()) {
-        QMdiSubWindow* child = area->addSubWindow(this);
-        child->setAttribute(Qt::WA_DeleteOnClose);
-        child->setWindowIcon(windowIcon());
+    QMdiArea* area = MainFrame();
+    if (area == nullptr) {
+        show();
+        raise();
+        return;
     }
+    // A child window comes up at its smallest good size; a size the screen gave itself is to count.
+    const QSize wanted = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+    QMdiSubWindow* child = area->addSubWindow(this);
+    child->setAttribute(Qt::WA_DeleteOnClose);
+    child->setWindowIcon(windowIcon());
+    const bool remembered = !Remembered(GeometryKey(), {}).isEmpty();
     show();
-    Frame()->raise();
+    if (!remembered) {
+        child->resize((child->size() + wanted - size()).boundedTo(area->viewport()->size()));
+    }
+    child->raise();
 }
 
 void Screen::done(int result) {

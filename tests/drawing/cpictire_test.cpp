@@ -17,7 +17,7 @@ TEST_F(CPictireTest, ThreeHundredAndSixtyTwoIsOneTooMany) {
     for (int i = 0; i < 361; ++i) picture_.AddLine({});
     EXPECT_TRUE(notice_.shown.empty());
     picture_.AddLine({{1, 1}, {2, 2}});
-    EXPECT_EQ(notice_.shown, std::vector<std::string>{"#Error: 数组超出范围,请与程序员联系"});
+    EXPECT_EQ(notice_.shown, std::vector<std::string>{"#Error|数组超出范围,请与程序员联系"});
     EXPECT_EQ(picture_.Lines().LastIndex(), 360);
     picture_.AddArc({});  // each kind has room of its own
     EXPECT_EQ(picture_.Arcs().Count(), 1);

@@ -5,7 +5,7 @@
 
 #include "drawing/cpictire.h"
 #include "numeric/number.h"
-#include "platform/notice.h"
+#include "support/recording_notice.h"
 
 namespace kalvane {
 
@@ -36,13 +36,7 @@ class RecordingTarget : public PaintTarget {
     void Note(const std::string& what) { painted += (painted.empty() ? "" : "; ") + what; }
 };
 
-class RecordingNotice : public Notice {
-  public:
-    void Show(const std::string& text, const std::string& title, NoticeIcon) override {
-        shown.push_back(title + ": " + text);
-    }
-    std::vector<std::string> shown;
-};
+using test::RecordingNotice;
 
 /// All items of a drawing, kind after kind in the order of the array.
 inline std::string Describe(const CPictire& picture) {

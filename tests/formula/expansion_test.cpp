@@ -67,14 +67,14 @@ TEST_F(ExpansionTest, PlainWindowGoesDownForBarsAndToTheNearestForFittings) {
               "5白玻||1315|1617|6|\n");
     EXPECT_EQ(Plain({"1", "5", "十樘"}).substr(0, 18), "框B|K60|1440||0|\n");
     EXPECT_EQ(Plain({"1", "99", "3"}), "");
-    EXPECT_EQ(notice.text, "");
+    EXPECT_TRUE(notice.shown.empty());
 }
 
 TEST_F(ExpansionTest, PlainWindowEndsAtAFailureAndKeepsTheRowsBefore) {
     store->Execute("Update 窗配件 set 数量='99999' where 编号=1");
     const std::string rows = Plain({"1", "5", "1"});
     EXPECT_TRUE(rows.ends_with("衬钢|G1|214.2857||1|\n")) << rows;
-    EXPECT_EQ(notice.text, "溢出||\n");
+    EXPECT_EQ(notice.shown, std::vector<std::string>{"|溢出"});
     store->Execute("Update 窗型材 set 规格=Null where 编号=2");
     EXPECT_EQ(Plain({"1", "5", "1"}), "框B|K60|1440||2|\n");
     store->Execute("Update 窗型材 set 计算公式='b)' where 编号=1");

@@ -6,7 +6,7 @@
 
 #include "numeric/number.h"
 #include "optimise/cstack_i.h"
-#include "optimise/recording_notice.h"
+#include "support/recording_notice.h"
 #include "platform/error.h"
 
 namespace kalvane {

@@ -8,7 +8,7 @@
 #include "numeric/number.h"
 #include "optimise/manual_run.h"
 #include "optimise/plan.h"
-#include "optimise/recording_notice.h"
+#include "support/recording_notice.h"
 #include "platform/error.h"
 #include "store/store_files.h"
 #include "support/store_rows.h"

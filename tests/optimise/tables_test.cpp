@@ -6,7 +6,7 @@
 #include "optimise/cstack_i.h"
 #include "optimise/ctable.h"
 #include "optimise/ctable02.h"
-#include "optimise/recording_notice.h"
+#include "support/recording_notice.h"
 #include "platform/error.h"
 
 namespace kalvane {

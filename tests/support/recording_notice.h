@@ -1,20 +1,22 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/notice.h"
 
 namespace kalvane::test {
 
-/// Keeps what was said: one line "text|title|icon" each; the icon as a letter, none for no icon.
+/// Keeps what the operator would have been shown, as "title|text".
 class RecordingNotice : public Notice {
   public:
-    void Show(const std::string& said, const std::string& title, NoticeIcon icon) override {
-        static constexpr const char* kLetters[] = {"", "i", "!", "x"};
-        text += said + "|" + title + "|" + kLetters[static_cast<int>(icon)] + "\n";
+    void Show(const std::string& text, const std::string& title, NoticeIcon icon) override {
+        shown.push_back(title + "|" + text);
+        icons.push_back(icon);
     }
 
-    std::string text;
+    std::vector<std::string> shown;
+    std::vector<NoticeIcon> icons;
 };
 
 }  // namespace kalvane::test

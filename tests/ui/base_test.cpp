@@ -54,7 +54,7 @@ TEST(WheelGuard, AnUnfocusedComboKeepsItsValue) {
     combo.addItems({QStringLiteral("a"), QStringLiteral("b")});
     other.move(200, 0);
     window.show();
-    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     const auto turnWheel = [&combo] {
         QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
                           false);
@@ -141,6 +141,7 @@ TEST_F(ScreenBaseTest, SizeIsRememberedInTheFrameAndOutsideIt) {
         SetMainFrame(frame);
         Screen* first = NewScreen();
         first->ShowModeless();
+        EXPECT_EQ(first->size(), QSize(300, 200)) << "its own size, the first time";
         QWidget* window = frame != nullptr ? first->parentWidget() : first;
         window->setGeometry(40, 50, 420, 310);
         Settle();
@@ -151,8 +152,18 @@ TEST_F(ScreenBaseTest, SizeIsRememberedInTheFrameAndOutsideIt) {
         Settle();
         window = frame != nullptr ? second->parentWidget() : second;
         EXPECT_EQ(window->geometry(), QRect(40, 50, 420, 310)) << (frame != nullptr);
+        window->showMaximized();
+        Settle();
         second->close();
         Settle();
+        Screen* third = NewScreen();
+        third->ShowModeless();
+        Settle();
+        window = frame != nullptr ? third->parentWidget() : third;
+        EXPECT_TRUE(window->isMaximized()) << (frame != nullptr);
+        third->close();
+        Settle();
+        settings_ = SettingsStore(folder_ / "forgotten");
     }
     SetMainFrame(nullptr);
 }

@@ -17,6 +17,7 @@
 #include "app/help_text.h"
 #include "app/screens/frmAbort.h"
 #include "app/screens/frmHelp.h"
+#include "app/screens/kalvane_kernel.h"
 #include "app/screens/picture_area.h"
 #include "app/startup.h"
 #include "platform/assertion.h"
@@ -68,7 +69,7 @@ const std::vector<MDIMain::EntryMenu>& MDIMain::Menus() {
              {QStringLiteral("mnuDesign"), QStringLiteral("窗型设计"), QStringLiteral("design"),
               Right::Design, nullptr},
              {QStringLiteral("mnuProject"), QStringLiteral("工程管理"), QStringLiteral("project"),
-              Right::Project, nullptr},
+              Right::Project, [](MDIMain&) { KalvaneKernel().ShowGCGL(); }},
              {QStringLiteral("mnuYouhua"), QStringLiteral("材料优化"), QStringLiteral("optimise"),
               Right::Optimise, nullptr},
              {QStringLiteral("mnuFYJH"), QStringLiteral("风压校核"), QStringLiteral("wind"), Right::WindCheck,
@@ -164,8 +165,9 @@ void MDIMain::Load() {
 
 void MDIMain::closeEvent(QCloseEvent* event) {
     area_->closeAllSubWindows();
-    if (!area_->subWindowList().isEmpty()) {  // a screen wants to stay
-        event->ignore();
+    for (const QMdiSubWindow* child : area_->subWindowList()) {
+        if (!child->isVisible()) continue;  // closed, deleted when the loop comes round
+        event->ignore();                    // the screen wants to stay
         return;
     }
     Remember(kGeometryKey, QString::fromLatin1(saveGeometry().toBase64()));

@@ -11,9 +11,10 @@
 
 #include "app/app_state.h"
 #include "app/login.h"
-#include "store/store_files.h"
+#include "app/startup.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
+#include "ui/message_notice.h"
 #include "ui/text.h"
 
 namespace kalvane {
@@ -72,7 +73,9 @@ int frmLogin::exec() {
 }
 
 void frmLogin::Load() {
-    auto users = std::make_unique<Connection>(App().folder / kUserStoreName, StoreKind::Users);
+    MessageNotice notice(this);
+    std::unique_ptr<Connection> users = OpenUserStore(App(), notice);
+    if (users == nullptr) return;
     for (const std::string& name : UserNames(*users)) cboUsrNm_->addItem(ToQt(name));
     cboUsrNm_->setCurrentIndex(-1);
     users_ = std::move(users);

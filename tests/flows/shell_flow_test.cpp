@@ -1,0 +1,367 @@
+// From the login to the main screen, and what the main screen does by itself.
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolBar>
+#include <fstream>
+
+#include "app/enc_decrypt.h"
+#include "app/instance_lock.h"
+#include "app/login.h"
+#include "app/screens/MDIMain.h"
+#include "app/screens/frmLogin.h"
+#include "app/screens/frmSetup.h"
+#include "platform/error.h"
+#include "platform/files.h"
+#include "store/helpers.h"
+#include "support/screens/screen_kit.h"
+#include "support/store_rows.h"
+#include "ui/screen.h"
+
+namespace kalvane {
+namespace {
+
+using test::Find;
+
+// --- Login ---------------------------------------------------------------------------------------
+
+class LoginTest : public test::ScreenTest {
+  protected:
+    void SetUp() override {
+        ScreenTest::SetUp();
+        App().userName.clear();
+        App().userAuth.clear();
+    }
+
+    /// Shows the login and does `work` with its controls.
+    int Run(const std::function<void()>& work) {
+        frmLogin login;
+        user_ = Find<QComboBox>(&login, "cboUsrNm");
+        password_ = Find<QLineEdit>(&login, "txtPassword");
+        ok_ = Find<QPushButton>(&login, "cmdOK");
+        int result = -1;
+        test::ModalScript()
+            .On("frmLogin",
+                [&](QDialog& screen) {
+                    screen_ = &screen;
+                    work();
+                })
+            .Run([&] { result = login.exec(); });
+        return result;
+    }
+    void Try(const char* password) {
+        password_->setText(QString::fromUtf8(password));
+        QTest::keyClick(password_, Qt::Key_Return);
+    }
+
+    QDialog* screen_ = nullptr;
+    QComboBox* user_ = nullptr;
+    QLineEdit* password_ = nullptr;
+    QPushButton* ok_ = nullptr;
+};
+
+const QString kWrong = QStringLiteral("提示|输入的密码不正确！");
+
+TEST_F(LoginTest, AsksForUserAndPasswordThenLogsIn) {
+    Run([this] {
+        EXPECT_FALSE(App().loginOK);
+        EXPECT_FALSE(user_->isEditable());
+        ok_->click();
+        EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|请选择要登陆的用户")));
+        EXPECT_TRUE(user_->hasFocus());
+        user_->setCurrentText(QStringLiteral("user"));
+        ok_->click();
+        EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|密码不能为空！请输入")));
+        EXPECT_TRUE(password_->hasFocus());
+        Try("user888");
+        EXPECT_FALSE(screen_->isVisible());
+    });
+    EXPECT_TRUE(App().loginOK);
+    EXPECT_EQ(App().userName, "user");
+    EXPECT_EQ(App().userAuth, "000111001011");
+    EXPECT_EQ(App().userPwd, clsEncDecrypt().KeyEncBuf("user888", kPasswordKey));
+    EXPECT_TRUE(dialogs_.shown.isEmpty());
+}
+
+TEST_F(LoginTest, TheFourthWrongTryEndsIt) {
+    Run([this] {
+        user_->setCurrentText(QStringLiteral("Admin"));
+        for (const char* wrong : {"user888", "' or '1'='1", "x"}) {
+            Try(wrong);
+            EXPECT_EQ(dialogs_.TakeShown(), QStringList(kWrong)) << wrong;
+            EXPECT_TRUE(screen_->isVisible()) << wrong;
+            EXPECT_EQ(password_->text(), QString()) << wrong;
+            EXPECT_TRUE(password_->hasFocus()) << wrong;
+        }
+        Try("y");
+        EXPECT_FALSE(screen_->isVisible());
+    });
+    EXPECT_EQ(dialogs_.shown, QStringList({kWrong, QStringLiteral("提示|你输入已超过三次了！")}));
+    EXPECT_EQ(dialogs_.icons.back(), NoticeIcon::Error);
+    EXPECT_FALSE(App().loginOK);
+}
+
+TEST_F(LoginTest, EscEndsItWithoutALogin) {
+    EXPECT_EQ(Run([this] { QTest::keyClick(password_, Qt::Key_Escape); }), QDialog::Rejected);
+    EXPECT_FALSE(App().loginOK);
+}
+
+TEST_F(LoginTest, AQuoteInANameIsTheStoresFailure) {
+    Connection users(folder_ / kUserStoreName, StoreKind::Users);
+    EXPECT_THROW(LogIn(App(), users, "O'Hara", "secret"), StoreError);
+    Run([this] {
+        user_->addItem(QStringLiteral("O'Hara"));
+        user_->setCurrentText(QStringLiteral("O'Hara"));
+        Try("secret");
+        EXPECT_EQ(dialogs_.shown.size(), 1);
+        EXPECT_TRUE(screen_->isVisible());
+    });
+}
+
+TEST_F(LoginTest, AOneCharacterPasswordIsLookedUpAsAnEmptyOne) {
+    Connection users(folder_ / kUserStoreName, StoreKind::Users);
+    users.Execute("Insert into User values('short','','1')");
+    EXPECT_TRUE(LogIn(App(), users, "short", "7"));
+    EXPECT_FALSE(LogIn(App(), users, "Admin", "7"));
+    EXPECT_EQ(App().userName, "short");
+}
+
+TEST_F(LoginTest, WithoutAUserStoreItEndsAtOnce) {
+    std::filesystem::remove(folder_ / kUserStoreName);
+    frmLogin login;
+    EXPECT_EQ(login.exec(), QDialog::Rejected);
+    ASSERT_EQ(dialogs_.shown.size(), 1);
+    EXPECT_TRUE(dialogs_.shown[0].startsWith(QStringLiteral("出错！|‘用户’数据库打开出错！")));
+}
+
+// --- Splash --------------------------------------------------------------------------------------
+
+class SplashTest : public test::ScreenTest {};
+
+TEST_F(SplashTest, ShowsItsTextsAndCloses) {
+    InstanceLock lock(folder_.Path());
+    frmSetup splash(lock);
+    auto* lblShow = Find<QLabel>(&splash, "lblShow");
+    QStringList texts;
+    QObject::connect(Find<QTimer>(&splash, "Timer2"), &QTimer::timeout, lblShow,
+                     [&] { texts << lblShow->text(); });
+    QElapsedTimer time;
+    time.start();
+    EXPECT_EQ(splash.exec(), QDialog::Accepted);
+    EXPECT_GE(time.elapsed(), 1490);
+    EXPECT_EQ(texts, QStringList({QStringLiteral("正在搜索文件..........."),
+                                  QStringLiteral("正在加载文件..........."),
+                                  QStringLiteral("正在初始化系统............")}));
+}
+
+TEST_F(SplashTest, ASecondProgramEndsAtOnce) {
+    InstanceLock first(folder_.Path());
+    ASSERT_TRUE(first.Acquire());
+    InstanceLock second(folder_.Path());
+    EXPECT_EQ(frmSetup(second).exec(), QDialog::Rejected);
+}
+
+// --- Main screen ---------------------------------------------------------------------------------
+
+class MainScreenTest : public test::ScreenTest {
+  protected:
+    static void Trigger(MDIMain& frame, const char* name) { Find<QAction>(&frame, name)->trigger(); }
+
+    /// Names of the menu entries and buttons that can be used, in the order of the screen.
+    static QString Enabled(MDIMain& frame) {
+        QStringList names;
+        QList<QAction*> actions;
+        for (QMenu* menu : frame.findChildren<QMenu*>()) {
+            if (menu->menuAction()->isEnabled()) actions << menu->actions();
+        }
+        actions << Find<QToolBar>(&frame, "Toolbar1")->actions();
+        for (const QAction* action : actions) {
+            if (action->isEnabled() && !action->isSeparator()) names << action->objectName();
+        }
+        return names.join(QLatin1Char(' '));
+    }
+};
+
+TEST_F(MainScreenTest, RightsEnableEntries) {
+    struct Case {
+        const char* userAuth;
+        const char* enabled;
+    };
+    const Case cases[] = {
+        {"111111111111", "mnuProject mnuExit mnuChangeBackgroup mnuClearCK mnuAbout mnuHelps x4 x7 x8"},
+        {"111011110110", "mnuExit mnuAbout mnuHelps x7 x8"},
+        {"000100000000", "mnuProject mnuExit mnuAbout mnuHelps x4 x7 x8"},
+        {"000000001000", "mnuExit mnuChangeBackgroup mnuAbout mnuHelps x7 x8"},
+        {"000000000001", "mnuExit mnuClearCK mnuAbout mnuHelps x7 x8"},
+        {"11111111111", "mnuExit mnuAbout mnuHelps x7 x8"},
+    };
+    for (const Case& c : cases) {
+        App().userAuth = c.userAuth;
+        MDIMain frame;
+        frame.Load();
+        EXPECT_EQ(Enabled(frame), QLatin1String(c.enabled)) << c.userAuth;
+    }
+}
+
+TEST_F(MainScreenTest, ButtonsStandAtTheirPlacesWithSeparatorsBetween) {
+    MDIMain frame;
+    QStringList keys;
+    for (const QAction* action : Find<QToolBar>(&frame, "Toolbar1")->actions()) {
+        keys << (action->isSeparator() ? QStringLiteral("|") : action->objectName());
+    }
+    EXPECT_EQ(keys.join(QString()), QStringLiteral("x1|x2|x3|x4|x5|x9|x6|x7|x8"));
+}
+
+TEST_F(MainScreenTest, AWorkScreenIsOpenOnce) {
+    MDIMain frame;
+    frame.Load();
+    frame.show();
+    for (const char* command : {"mnuProject", "x4"}) {
+        Trigger(frame, command);
+        const QList<QMdiSubWindow*> children = frame.findChild<QMdiArea*>()->subWindowList();
+        ASSERT_EQ(children.size(), 1) << command;
+        EXPECT_EQ(children[0]->widget()->objectName(), QStringLiteral("frmMCGCGL"));
+    }
+}
+
+TEST_F(MainScreenTest, ClearingTheWarehouseEmptiesAllFiveTables) {
+    for (const char* row : {"入库单 (单据编号) values(7)", "出库单 (单据编号) values(9)",
+                            "入库单子表 (单据编号,数量) values(7,1)",
+                            "出库单子表 (单据编号,数量) values(9,1)", "库存表 (名称) values('框')"}) {
+        App().Stock().Execute(std::string("Insert into ") + row);
+    }
+    MDIMain frame;
+    frame.Load();
+    Trigger(frame, "mnuClearCK");
+    EXPECT_EQ(dialogs_.shown, QStringList(QStringLiteral("提示|操作已完成!")));
+    for (const std::string table : {"入库单", "出库单", "入库单子表", "出库单子表", "库存表"}) {
+        EXPECT_EQ(test::Rows(App().Stock(), "Select * from " + table), "") << table;
+    }
+    EXPECT_EQ(NextEnterNo(App().Stock()), "1");
+    EXPECT_EQ(NextPostNo(App().Stock()), "1");
+}
+
+TEST_F(MainScreenTest, ABackgroundIsShownAndSavedAndABadOneIsTold) {
+    const QString good = QString::fromStdString((folder_ / "green.png").string());
+    QImage green(10, 10, QImage::Format_RGB32);
+    green.fill(Qt::green);
+    ASSERT_TRUE(green.save(good));
+    const QString bad = QString::fromStdString((folder_ / kUserStoreName).string());
+
+    MDIMain frame;
+    frame.Load();
+    auto* area = frame.findChild<QMdiArea*>();
+    const auto middle = [&] { return area->viewport()->grab().toImage().pixelColor(60, 60); };
+    const QColor builtIn = middle();
+    dialogs_.files = {QString(), bad, good};
+    Trigger(frame, "mnuChangeBackgroup");  // cancelled
+    EXPECT_TRUE(dialogs_.shown.isEmpty());
+    Trigger(frame, "mnuChangeBackgroup");
+    EXPECT_EQ(dialogs_.shown.size(), 1);
+    EXPECT_EQ(middle(), builtIn);
+    EXPECT_EQ(settings_.Read("Tesmar", "KALVANE", "BACKGROUP", "none"), "none");
+    Trigger(frame, "mnuChangeBackgroup");
+    EXPECT_EQ(middle(), QColor(Qt::green));
+    EXPECT_EQ(settings_.Read("Tesmar", "KALVANE", "BACKGROUP", ""), good.toStdString());
+    EXPECT_EQ(dialogs_.filters.back(), QStringLiteral("所有文件|*.*|BMP|*.bmp|JPEG|*.JPEG|JPG|*.JPG"));
+}
+
+/// A child screen that may refuse to close, as one with unsaved work does.
+class StubbornScreen : public Screen {
+  public:
+    StubbornScreen() : Screen(QStringLiteral("frmChild"), QStringLiteral("子窗口"), nullptr) {}
+    bool willing = true;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override {
+        if (willing) {
+            Screen::closeEvent(event);
+        } else {
+            event->ignore();
+        }
+    }
+};
+
+TEST_F(MainScreenTest, X8ClosesTheChildFirstAndThenTheProgram) {
+    MDIMain frame;
+    frame.Load();
+    frame.show();
+    const QPointer<StubbornScreen> child = new StubbornScreen;
+    child->ShowModeless();
+    child->willing = false;
+    Trigger(frame, "x8");
+    EXPECT_TRUE(child->isVisible());
+    frame.close();
+    EXPECT_TRUE(frame.isVisible()) << "the child has a say in the end of the program";
+    child->willing = true;
+    Trigger(frame, "x8");
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(child, nullptr);
+    EXPECT_TRUE(frame.isVisible());
+    Trigger(frame, "x8");
+    EXPECT_FALSE(frame.isVisible());
+}
+
+TEST_F(MainScreenTest, ExitTakesWillingChildrenAlong) {
+    MDIMain frame;
+    frame.show();
+    (new StubbornScreen)->ShowModeless();
+    Trigger(frame, "mnuExit");
+    EXPECT_FALSE(frame.isVisible());
+}
+
+TEST_F(MainScreenTest, HelpIsTheFileOfTheFolder) {
+    MDIMain frame;
+    const auto help = [&](const char* command) {
+        QString text;
+        test::ModalScript()
+            .On("frmHelp", [&](QDialog& s) { text = Find<QPlainTextEdit>(&s, "Text1")->toPlainText(); })
+            .Run([&] { Trigger(frame, command); });
+        return text;
+    };
+    EXPECT_EQ(help("mnuHelps"), QStringLiteral("无帮助文件！"));
+    WriteFileAtomically(folder_ / "help.txt", "\xB0\xEF\xD6\xFA");  // GBK
+    EXPECT_EQ(help("x7"), QStringLiteral("帮助"));
+}
+
+TEST_F(MainScreenTest, TheAboutBoxClosesOnAClick) {
+    MDIMain frame;
+    test::ModalScript()
+        .On("frmAbort",
+            [](QDialog& box) {
+                QTest::mouseClick(box.findChild<QLabel*>(), Qt::LeftButton);
+                EXPECT_FALSE(box.isVisible());
+            })
+        .Run([&] { Trigger(frame, "mnuAbout"); });
+}
+
+TEST_F(MainScreenTest, ABrokenStoreIsToldAndTheScreenStaysUp) {
+    App().mainConnection.reset();
+    WriteFileAtomically(folder_ / kMainStoreName, "no store of ours");
+    settings_.Save("Tesmar", "KALVANE", "OutPutFileType", "1");
+    settings_.Save("Tesmar", "YHOPTION", "CLC", "40000");  // beyond 16 bits
+    MDIMain frame;
+    frame.Load();
+    ASSERT_EQ(dialogs_.shown.size(), 2);
+    EXPECT_TRUE(dialogs_.shown[1].startsWith(QStringLiteral("出错！|‘材料’数据库打开出错！")))
+        << "title and text";
+    EXPECT_THROW(App().Main(), StoreError);
+    EXPECT_EQ(NextEnterNo(App().Stock()), "1");
+    EXPECT_EQ(App().outputFileType, 1);
+    EXPECT_EQ(App().windCheckOption, 1);
+    EXPECT_EQ(App().optimise.NODES, 20);
+}
+
+}  // namespace
+}  // namespace kalvane

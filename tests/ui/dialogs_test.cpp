@@ -1,0 +1,139 @@
+// The real dialogs, with the operator's hand on their buttons.
+
+#include "ui/dialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "platform/files.h"
+#include "support/screens/screen_kit.h"
+
+namespace kalvane {
+namespace {
+
+class DialogsTest : public test::ScreenTest {
+  protected:
+    void SetUp() override {
+        ScreenTest::SetUp();
+        SetDialogs(nullptr);
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    }
+
+    QString InFolder(const std::string& name) const {
+        return QString::fromStdString((folder_ / name).string());
+    }
+    static test::ModalScript::Work Press(QMessageBox::StandardButton button, const QString& caption) {
+        return [button, caption](QDialog& screen) {
+            auto* box = qobject_cast<QMessageBox*>(&screen);
+            ASSERT_NE(box, nullptr);
+            ASSERT_NE(box->button(button), nullptr);
+            EXPECT_EQ(box->button(button)->text(), caption);
+            box->button(button)->click();
+        };
+    }
+    static test::ModalScript::Work Choose(const QString& file) {
+        return [file](QDialog& screen) {
+            auto* dialog = qobject_cast<QFileDialog*>(&screen);
+            ASSERT_NE(dialog, nullptr);
+            test::Find<QLineEdit>(dialog, "fileNameEdit")->setText(file);
+            QMetaObject::invokeMethod(dialog, "accept");
+        };
+    }
+};
+
+TEST_F(DialogsTest, QuestionsAreAskedInChinese) {
+    struct Case {
+        bool yesNo;
+        QMessageBox::StandardButton press;
+        const char* caption;
+        bool answer;
+    };
+    const Case cases[] = {
+        {true, QMessageBox::Yes, "是", true},
+        {true, QMessageBox::No, "否", false},
+        {false, QMessageBox::Ok, "确定", true},
+        {false, QMessageBox::Cancel, "取消", false},
+    };
+    for (const Case& c : cases) {
+        test::ModalScript().On("", Press(c.press, QString::fromUtf8(c.caption))).Run([&] {
+            const QString text = QStringLiteral("<b>真的吗？");
+            EXPECT_EQ(c.yesNo ? UseDialogs().AskYesNo(nullptr, text, QStringLiteral("提示"))
+                              : UseDialogs().AskOkCancel(nullptr, text, QStringLiteral("提示")),
+                      c.answer)
+                << c.caption;
+        });
+    }
+}
+
+TEST_F(DialogsTest, AMessageShowsItsTextPlainly) {
+    test::ModalScript()
+        .On("",
+            [](QDialog& screen) {
+                auto* box = qobject_cast<QMessageBox*>(&screen);
+                EXPECT_EQ(box->textFormat(), Qt::PlainText);
+                EXPECT_EQ(box->icon(), QMessageBox::Critical);
+                EXPECT_EQ(box->windowTitle(), QStringLiteral("KalvaneV7.0"));
+            })
+        .Run([] { UseDialogs().Message(nullptr, QStringLiteral("a<b"), {}, NoticeIcon::Error); });
+}
+
+TEST_F(DialogsTest, InputGivesTheTextOrNothing) {
+    const auto input = [](bool accept) {
+        std::optional<QString> text;
+        test::ModalScript()
+            .On("",
+                [accept](QDialog& screen) {
+                    auto* dialog = qobject_cast<QInputDialog*>(&screen);
+                    EXPECT_EQ(dialog->textValue(), QStringLiteral("1"));
+                    dialog->setTextValue(QStringLiteral("25"));
+                    dialog->done(accept ? QDialog::Accepted : QDialog::Rejected);
+                })
+            .Run([&] {
+                text = UseDialogs().InputText(nullptr, QStringLiteral("编号"), QStringLiteral("起始编号："),
+                                              QStringLiteral("1"));
+            });
+        return text;
+    };
+    EXPECT_EQ(input(true), QStringLiteral("25"));
+    EXPECT_EQ(input(false), std::nullopt);
+}
+
+TEST_F(DialogsTest, SavingAsksBeforeItOverwritesAndRemembersTheFolder) {
+    std::filesystem::create_directory(folder_ / "plans");
+    WriteFileAtomically(folder_ / "plans/old.DDD", "old");
+    const QString filter = QStringLiteral("需求文件|*.DDD");
+    QString chosen;
+    test::ModalScript()
+        .On("QFileDialog", Choose(InFolder("plans/old")))
+        .On("", Press(QMessageBox::No, QStringLiteral("否")))
+        .On("QFileDialog", Choose(InFolder("plans/new")))
+        .Run([&] {
+            chosen = UseDialogs().SaveFileName(nullptr, QStringLiteral("plan"), filter, QStringLiteral("DDD"),
+                                               true);
+        });
+    EXPECT_EQ(chosen, InFolder("plans/new.DDD"));
+    test::ModalScript().On("QFileDialog", Choose(InFolder("plans/old.DDD"))).Run([&] {
+        chosen =
+            UseDialogs().SaveFileName(nullptr, QStringLiteral("plan"), filter, QStringLiteral("DDD"), false);
+    });
+    EXPECT_EQ(chosen, InFolder("plans/old.DDD"));
+
+    const auto folderOffered = [&](const QString& purpose) {
+        QString folder;
+        test::ModalScript()
+            .On("QFileDialog",
+                [&](QDialog& screen) { folder = qobject_cast<QFileDialog*>(&screen)->directory().path(); })
+            .Run([&] { EXPECT_EQ(UseDialogs().OpenFileName(nullptr, purpose, filter), QString()); });
+        return folder;
+    };
+    EXPECT_EQ(folderOffered(QStringLiteral("plan")), InFolder("plans"));
+    EXPECT_EQ(folderOffered(QStringLiteral("picture")), QString::fromStdString(folder_.Path().string()));
+}
+
+}  // namespace
+}  // namespace kalvane

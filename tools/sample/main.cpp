@@ -1,0 +1,212 @@
+#include <QtTest>
+#include <QtWidgets>
+#include <functional>
+#include <iostream>
+
+#include "app/app_state.h"
+#include "app/screens/MDIMain.h"
+#include "app/screens/frmLogin.h"
+#include "app/store_setup.h"
+#include "drawing/mcpicture.h"
+#include "numeric/number.h"
+#include "optimise/plan.h"
+#include "optimise/plan_text.h"
+#include "optimise/plan_workbook.h"
+#include "optimise/run.h"
+#include "platform/error.h"
+#include "platform/settings_store.h"
+#include "project/project_list.h"
+#include "project/project_windows.h"
+#include "store/field_slots.h"
+#include "store/helpers.h"
+#include "ui/application.h"
+#include "ui/message_notice.h"
+#include "ui/report_list.h"
+#include "ui/text.h"
+#include "ui/window_picture.h"
+
+// Takes the sample order through the real screens and leaves plans and pictures in the folder named on the
+// command line.
+
+using namespace kalvane;
+
+namespace {
+
+constexpr const char* kProject = "示例工程";
+constexpr int kPatienceMilliseconds = 60000;
+
+std::filesystem::path out;
+
+/// The visible screen of that name, wherever it stands.
+QWidget* Shown(const QString& name) {
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (widget->objectName() == name && widget->isVisible()) return widget;
+    }
+    return nullptr;
+}
+
+/// The child of `screen` with that name; the program ends when there is none.
+template <typename Widget>
+Widget* Control(QWidget* screen, const char* name) {
+    auto* control = screen->findChild<Widget*>(QString::fromLatin1(name));
+    if (control == nullptr) qFatal("%s has no %s", qPrintable(screen->objectName()), name);
+    return control;
+}
+
+void Press(QWidget* screen, const char* button) {
+    Control<QAbstractButton>(screen, button)->click();
+}
+
+void TakePicture(QWidget* screen, const QString& name) {
+    QApplication::processEvents();
+    screen->grab().save(ToQt((out / (FromQt(name) + ".png")).string()));
+}
+
+/// Runs `action` on the screen of that name once it is shown, also while it runs modally.
+void WhenShown(const QString& name, const std::function<void(QWidget*)>& action) {
+    auto* timer = new QTimer(qApp);
+    timer->setInterval(10);
+    auto patience = std::make_shared<QElapsedTimer>();
+    patience->start();
+    QObject::connect(timer, &QTimer::timeout, timer, [=] {
+        if (patience->elapsed() > kPatienceMilliseconds) qFatal("%s was not shown", qPrintable(name));
+        QWidget* screen = Shown(name);
+        if (screen == nullptr) return;
+        timer->stop();
+        timer->deleteLater();
+        action(screen);
+    });
+    timer->start();
+}
+
+void LogIn() {
+    WhenShown("frmLogin", [](QWidget* screen) {
+        QTest::keyClicks(Control<QLineEdit>(screen, "txtPassword"), "admin888");
+        TakePicture(screen, "frmLogin");
+        Press(screen, "cmdOK");
+    });
+    frmLogin().exec();
+    if (!App().loginOK) throw Error("登录没有成功。");
+}
+
+/// From the main screen to the opened sample project.
+QWidget* OpenSample(MDIMain& frame) {
+    frame.findChild<QAction*>("mnuProject")->trigger();
+    QWidget* projects = Shown("frmMCGCGL");
+    auto* list = Control<ReportList>(projects, "Lvw");
+    for (int row = 0; row < list->RowCount(); ++row) {
+        if (list->Text(row, 0) == kProject) list->SelectRow(row);
+    }
+    Press(projects, "CmdOpen");
+    TakePicture(&frame, "MDIMain");
+    QWidget* windows = Shown("frmOpenGC");
+    TakePicture(windows, "frmOpenGC");
+    return windows;
+}
+
+void ShowNewWindow(QWidget* windows) {
+    WhenShown("frmAddGCMC", [](QWidget* screen) {
+        auto* tree = Control<QTreeWidget>(screen, "Tvw");
+        QTreeWidgetItem* type = tree->topLevelItem(0);
+        while (type->childCount() > 0) {
+            type->setExpanded(true);
+            type = type->child(type->childCount() - 1);
+        }
+        tree->scrollToItem(type);
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(type).center());
+        const char* const values[] = {"1800", "1500", "600", "450"};
+        for (const char* value : values) {
+            auto* box = Control<QLineEdit>(screen, "TxtBZ");
+            box->selectAll();
+            QTest::keyClicks(box, value);
+            QTest::keyClick(box, Qt::Key_Return);
+        }
+        TakePicture(screen, "frmAddGCMC");
+        Press(screen, "Command2");
+    });
+    Press(windows, "CmdAdd");
+}
+
+/// The wizard from its second step to the plan of the first scheme.
+void RunWizard(QWidget* windows) {
+    WhenShown("frmCreate02", [](QWidget* step2) {
+        WhenShown("frmCreate03", [](QWidget* step3) {
+            Press(step3, "CmdMoveAll");
+            TakePicture(step3, "frmCreate03");
+            WhenShown("frmResult", [](QWidget* result) {
+                TakePicture(result, "frmResult");
+                Press(result, "CmdExit");
+            });
+            Press(step3, "CmdNext");
+            step3->close();
+        });
+        Press(step2, "CmdMoveAll");
+        Press(step2, "CmdNext");
+        step2->close();
+    });
+    Press(windows, "cmdYH");
+}
+
+void SavePlan(const std::string& name) {
+    const std::string today = FromQt(QDate::currentDate().toString("yyyy-MM-dd"));
+    const PlanOutput plan = LoadPlanOutput(App().Main(), kProject, today);
+    SavePlanText(plan, out / (name + ".txt"));
+    SavePlanWorkbook(plan, out / (name + ".xlsx"));
+}
+
+void SaveWindowPictures() {
+    MessageNotice notice(nullptr);
+    for (const WindowEntry& window : ListWindows(App().Main(), App().currentProjectId)) {
+        LoadRowById(App().Main(), "门窗", window.typeNumber, SharedFieldSlots());
+        MCPicture picture(notice);
+        picture.OpenFileEX(App().Main(), SharedFieldSlots()[4]);
+        std::vector<WindowLabel> labels;
+        for (const LabelRow& label : LoadLabels(App().Main(), window.number)) {
+            labels.push_back({Val(label.x), Val(label.y), label.value});
+        }
+        const std::string file = "window-" + window.number + "-" + window.name + ".png";
+        WindowPictureImage(picture, labels, QSize(950, 794)).save(ToQt((out / file).string()));
+    }
+}
+
+void Run() {
+    CreateMissingStores(App().folder);
+    LogIn();
+    MDIMain frame;
+    frame.Load();
+    frame.resize(1280, 800);
+    frame.show();
+    App().optimise = {.CLC = 6000, .LTC = 10, .CKK = 5, .YHBL = 0.98F};
+
+    QWidget* windows = OpenSample(frame);
+    ShowNewWindow(windows);
+    RunWizard(windows);
+    SavePlan("plan-scheme-1");
+    MessageNotice notice(&frame);
+    RunOptimisation(App().Main(), App().optimise, 1, ListMaterials(App().Main()), notice, {});
+    SavePlan("plan-scheme-2");
+    SaveWindowPictures();
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    if (argc != 2) {
+        std::cerr << "usage: kalvane-sample FOLDER\n";
+        return 1;
+    }
+    QApplication application(argc, argv);
+    PrepareApplication(application);
+    out = std::filesystem::absolute(argv[1]);
+    const QTemporaryDir folder;
+    App().folder = FromQt(folder.path());
+    SettingsStore settings(App().folder / "settings");
+    App().settings = &settings;
+    try {
+        Run();
+    } catch (const std::exception& failure) {
+        std::cerr << failure.what() << '\n';
+        return 1;
+    }
+    return 0;
+}
