@@ -232,6 +232,7 @@ TEST_F(ProjectFlow, WindowsAreChangedAndDeleted) {
 
     dialogs_.answers = {true};
     opened->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(opened));
     lvw->setFocus();
     QTest::keyClick(lvw, Qt::Key_Delete);
     EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|确认要删除门窗：C2吗？")));
