@@ -15,7 +15,7 @@ namespace kalvane {
 /// as many times as the demand allows. A row of 优化结果 stands for all bars of one pattern.
 class LinearOptimiser {
   public:
-    /// `tick` is called every few milliseconds of a long search, so that a screen can repaint.
+    /// `tick` is called about every millisecond of a long search, so that a screen can repaint.
     LinearOptimiser(Connection& connection, const OptimiseSettings& settings, Notice& notice,
                     std::function<void()> tick);
 

@@ -25,8 +25,8 @@ struct ManualRowFailure {
 std::optional<ManualRowFailure> CheckManualRow(const ManualRow& row, const OptimiseSettings& settings);
 
 /// Lays out bars for typed rows, with no project behind them: replaces 优化数据 and 优化结果 and runs the
-/// scheme (0 practical, any other linear) with `name` as the material. `tick` is called every few
-/// milliseconds of a long search; it may be empty.
+/// scheme (0 practical, any other linear) with `name` as the material. `tick` is called about
+/// every millisecond of a long search; it may be empty.
 ///
 /// A failure of the linear optimiser is shown under "出错"; all others are thrown, and the rows already
 /// written stay.

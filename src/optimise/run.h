@@ -12,8 +12,8 @@
 
 namespace kalvane {
 
-/// Called with the index of the material at hand: once when its turn comes, and again every few
-/// milliseconds of a long search. May be empty.
+/// Called with the index of the material at hand: once when its turn comes, and again about every
+/// millisecond of a long search, so it must be quick. May be empty.
 using RunProgress = std::function<void(std::size_t material)>;
 
 /// The materials that the gathered demand names, in the order of their 规格. A demand typed by hand has an

@@ -6,7 +6,7 @@
 
 namespace kalvane {
 
-/// Calls back about every few milliseconds of a long search, measured by the work done.
+/// Calls back about every millisecond of a long search, measured by the work done.
 class Ticker {
   public:
     /// `tick` may be empty.
@@ -21,7 +21,7 @@ class Ticker {
     }
 
   private:
-    static constexpr std::size_t kCellsPerTick = std::size_t{1} << 24;
+    static constexpr std::size_t kCellsPerTick = std::size_t{1} << 22;
 
     std::function<void()> tick_;
     std::size_t done_ = 0;

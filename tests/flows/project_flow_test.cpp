@@ -30,10 +30,17 @@ class ProjectFlow : public test::ScreenTest {
     static void Press(QWidget* screen, const char* name) { Find<QPushButton>(screen, name)->click(); }
     static QString Box(QWidget& screen, const char* name) { return Find<QLineEdit>(&screen, name)->text(); }
 
-    /// Types into whatever has the focus of the screen, with Enter behind each text.
+    /// Types into whatever has the focus of the screen, Chinese through an input method, with Enter behind
+    /// each text.
     static void TypeThrough(QWidget& screen, const QStringList& texts) {
         for (const QString& text : texts) {
-            QTest::keyClicks(screen.focusWidget(), text);
+            if (text == QString::fromLatin1(text.toLatin1())) {
+                QTest::keyClicks(screen.focusWidget(), text);
+            } else {
+                QInputMethodEvent typed;
+                typed.setCommitString(text);
+                QApplication::sendEvent(screen.focusWidget(), &typed);
+            }
             QTest::keyClick(screen.focusWidget(), Qt::Key_Return);
         }
     }
@@ -74,6 +81,7 @@ class ProjectFlow : public test::ScreenTest {
 TEST_F(ProjectFlow, ProjectsAreEnteredChangedAndDeleted) {
     App().Main().Execute(
         "Insert into 工程 (编号,合同编号,工程名称,工程地点,甲方单位) values(4,'h','A','d','f')");
+    App().Main().Execute("Update 工程 Set 工程名称='Z' where 编号=1");
     frmMCGCGL list(nullptr);
     list.show();
     auto* lvw = Find<ReportList>(&list, "Lvw");
@@ -127,7 +135,8 @@ TEST_F(ProjectFlow, ProjectsAreEnteredChangedAndDeleted) {
     Press(&list, "CmdDel");
     EXPECT_EQ(lvw->RowCount(), 3);
     Press(&list, "CmdDel");
-    EXPECT_EQ(dialogs_.TakeShown().back(), QStringLiteral("提示|确认要删除工程：B吗？"));
+    const QString question = QStringLiteral("提示|确认要删除工程：B吗？");
+    EXPECT_EQ(dialogs_.TakeShown(), QStringList({question, question}));
     EXPECT_EQ(Rows("Select 编号 from 工程"), "1\n4");
     EXPECT_EQ(lvw->RowCount(), 2);
     EXPECT_EQ(frmOpenGC::OfProject("5"), nullptr) << "its windows are gone with it";
@@ -169,6 +178,16 @@ TEST_F(ProjectFlow, WindowsAreTypedThroughByEnter) {
                 EXPECT_EQ(Box(add, "Text1(4)"), QStringLiteral("40000"));
                 ClickNode(add, PathTo("1").mid(0, 1));
                 EXPECT_EQ(labels->RowCount(), 0);
+
+                // By the keys: the arrows show a type, Enter leads on to its labels.
+                auto* tree = Find<QTreeWidget>(&add, "Tvw");
+                QTest::keyClick(tree, Qt::Key_Down);
+                QTest::keyClick(tree, Qt::Key_Down);
+                EXPECT_EQ(Box(add, "Text1(0)"), tree->currentItem()->text(0));
+                EXPECT_EQ(add.focusWidget(), tree);
+                QTest::keyClick(tree, Qt::Key_Return);
+                EXPECT_EQ(labels->SelectedRow(), 0);
+                EXPECT_EQ(add.focusWidget()->objectName(), QStringLiteral("TxtBZ"));
             })
         .Run([&] { Press(opened, "CmdAdd"); });
     EXPECT_EQ(Rows("Select 编号,门窗编号,门窗名称,门窗类型,洞口宽,洞口高,樘数,说明 from 工程门窗 "
@@ -212,8 +231,11 @@ TEST_F(ProjectFlow, WindowsAreChangedAndDeleted) {
     EXPECT_EQ(lvw->SelectedRow(), 1);
 
     dialogs_.answers = {true};
+    opened->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(opened));
+    lvw->setFocus();
     QTest::keyClick(lvw, Qt::Key_Delete);
-    EXPECT_EQ(dialogs_.TakeShown().back(), QStringLiteral("提示|确认要删除门窗：C2吗？"));
+    EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|确认要删除门窗：C2吗？")));
     EXPECT_EQ(Rows("Select 编号 from 工程门窗 where 编号=2") + Rows("Select * from 标注 where Mcnum=2"), "");
 
     dialogs_.inputs = {QStringLiteral("7"), QString()};

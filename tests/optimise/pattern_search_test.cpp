@@ -6,8 +6,8 @@
 
 #include "numeric/number.h"
 #include "optimise/cstack_i.h"
-#include "support/recording_notice.h"
 #include "platform/error.h"
+#include "support/recording_notice.h"
 
 namespace kalvane {
 namespace {

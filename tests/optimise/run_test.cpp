@@ -8,9 +8,9 @@
 #include "numeric/number.h"
 #include "optimise/manual_run.h"
 #include "optimise/plan.h"
-#include "support/recording_notice.h"
 #include "platform/error.h"
 #include "store/store_files.h"
+#include "support/recording_notice.h"
 #include "support/store_rows.h"
 #include "support/temp_folder.h"
 
@@ -168,7 +168,7 @@ std::map<int, int> PiecesOf(const std::string& pattern) {
 
 TEST_F(RunTest, PlansCutExactlyTheDemand) {
     std::mt19937 random(2024);
-    for (int round = 0; round < 60; ++round) {
+    for (int round = 0; round < 24; ++round) {
         connection->Execute("Delete from 优化数据");
         settings.LTC = static_cast<std::int16_t>(random() % 20);
         settings.CKK = static_cast<std::int16_t>(random() % 6);
@@ -178,7 +178,7 @@ TEST_F(RunTest, PlansCutExactlyTheDemand) {
         std::map<int, int> demand;
         for (auto i = random() % 12 + 1; i > 0; --i) {
             const int length = static_cast<int>(random() % 2900) + 400;
-            const int count = static_cast<int>(random() % 30) + 1;
+            const int count = static_cast<int>(random() % 15) + 1;
             demand[length] += count;
             Demand("A", length, count);
         }
@@ -204,8 +204,8 @@ TEST_F(RunTest, PlansCutExactlyTheDemand) {
 TEST_F(RunTest, ProgressNamesTheMaterialAndComesBackInLongSearches) {
     Demand("A", 100, 1);
     std::mt19937 random(5);
-    for (int i = 0; i < 150; ++i) Demand("B", static_cast<int>(random() % 3000) + 3000, 1);
-    settings.NODES = 150;
+    for (int i = 0; i < 60; ++i) Demand("B", static_cast<int>(random() % 3000) + 3000, 1);
+    settings.NODES = 60;
     std::vector<int> calls(2);
     RunOptimisation(*connection, settings, 1, {"A", "B"}, notice, [&](std::size_t i) { ++calls[i]; });
     EXPECT_EQ(calls[0], 1);

@@ -6,8 +6,8 @@
 #include "optimise/cstack_i.h"
 #include "optimise/ctable.h"
 #include "optimise/ctable02.h"
-#include "support/recording_notice.h"
 #include "platform/error.h"
+#include "support/recording_notice.h"
 
 namespace kalvane {
 namespace {
