@@ -151,7 +151,7 @@ void SavePlan(const std::string& name) {
     const std::string today = FromQt(QDate::currentDate().toString("yyyy-MM-dd"));
     const PlanOutput plan = LoadPlanOutput(App().Main(), kProject, today);
     SavePlanText(plan, out / (name + ".txt"));
-    SavePlanWorkbook(plan, out / (name + ".xlsx"));
+    PlanWorkbook(plan).Save(out / (name + ".xlsx"));
 }
 
 void SaveWindowPictures() {
@@ -176,7 +176,10 @@ void Run() {
     frame.Load();
     frame.resize(1280, 800);
     frame.show();
-    App().optimise = {.CLC = 6000, .LTC = 10, .CKK = 5, .YHBL = 0.98F};
+    App().optimise.CLC = 6000;
+    App().optimise.LTC = 10;
+    App().optimise.CKK = 5;
+    App().optimise.YHBL = 0.98F;
 
     QWidget* windows = OpenSample(frame);
     ShowNewWindow(windows);
