@@ -67,7 +67,7 @@ frmAddGCMC::frmAddGCMC(QWidget* parent)
     panes->addWidget(MakePicturePane());
     panes->addWidget(MakeLabelPane());
     panes->setStretchFactor(1, 1);
-    panes->setSizes({230, 600, 230});
+    panes->setSizes({230, 590, 260});
     auto* all = new QVBoxLayout(this);
     all->addWidget(panes, 1);
     resize(kFirstSize);
@@ -130,15 +130,16 @@ void frmAddGCMC::Connect() {
     OnSignal(tvw_, &QTreeWidget::currentItemChanged, this, [this] {
         if (tvw_->currentItem() != nullptr) ChooseNode(tvw_->currentItem());
     });
-    for (const auto signal : {&QTreeWidget::itemClicked, &QTreeWidget::itemActivated}) {
-        OnSignal(tvw_, signal, this, [this] { OpenNode(tvw_->currentItem()); });
-    }
+    OnSignal(tvw_, &QTreeWidget::itemClicked, this, [this] { OpenNode(tvw_->currentItem()); });
     OnSignal(lvwBZ_, &ReportList::itemSelectionChanged, this, [this] { TakeUpLabel(); });
     OnSignal(lvwBZ_, &ReportList::itemClicked, this, [this] { TakeUpLabel(); });
     OnSignal(change_, &QPushButton::clicked, this, [this] { ChangeLabel(); });
     OnSignal(add_, &QPushButton::clicked, this, [this] { Save(); });
     OnSignal(exit_, &QPushButton::clicked, this, [this] { reject(); });
 
+    OnEnter(tvw_, [this] {
+        if (tvw_->currentItem() != nullptr) OpenNode(tvw_->currentItem());
+    });
     OnEnter(txtBZ_, [this] {
         if (change_->isEnabled()) ChangeLabel();
     });
@@ -169,6 +170,8 @@ void frmAddGCMC::AddNodes(const std::vector<TypeNode>& nodes, QTreeWidgetItem* p
 void frmAddGCMC::StartAdding(const std::string& projectNumber) {
     window_.projectNumber = projectNumber;
     AddNodes(LoadWindowTypes(App().Main()), tvw_->invisibleRootItem());
+    // A workshop with one maker sees its series at once.
+    if (tvw_->topLevelItemCount() == 1) tvw_->expandItem(tvw_->topLevelItem(0));
     ZeroBoxes();
     tvw_->setFocus();
 }
@@ -181,7 +184,8 @@ void frmAddGCMC::StartEditing(const WindowEntry& window) {
     AddNodes(LoadWindowTypes(App().Main()), tvw_->invisibleRootItem());
     tvw_->setEnabled(false);
     tvw_->setToolTip(QStringLiteral("编辑门窗时窗型不能更改"));
-    ShowDrawing(window.typeNumber);
+    // A window whose type or drawing is gone can be edited all the same, without a picture.
+    Guarded(this, [&] { ShowDrawing(window.typeNumber); });
     const std::string* texts[] = {&window.name,   &window.position, &window.width,
                                   &window.height, &window.count,    &window.note};
     for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_[i]->setText(ToQt(*texts[i]));
@@ -191,10 +195,8 @@ void frmAddGCMC::StartEditing(const WindowEntry& window) {
 
 void frmAddGCMC::ChooseNode(QTreeWidgetItem* node) {
     const std::string tag = TagOf(node);
-    if (!IsWindowType(tag)) {
-        ListLabels({});
-        return;
-    }
+    ListLabels({});
+    if (!IsWindowType(tag)) return;
     window_.typeNumber = KeyId(tag);
     boxes_[kName]->setText(node->text(0));
     ListLabels(ShowDrawing(window_.typeNumber));
@@ -210,6 +212,7 @@ void frmAddGCMC::OpenNode(QTreeWidgetItem* node) {
 }
 
 std::vector<LabelRow> frmAddGCMC::ShowDrawing(const std::string& typeNumber) {
+    picture_->SetPersistent({});  // a drawing that cannot be opened leaves no other one behind
     const auto drawing = std::make_shared<MCPicture>(notice_);
     drawing->OpenFileEX(App().Main(), DrawingOfWindowType(App().Main(), typeNumber, SharedFieldSlots()));
     picture_->SetPersistent(

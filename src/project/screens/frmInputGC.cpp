@@ -53,7 +53,7 @@ frmInputGC::frmInputGC(const QString& title, QWidget* parent)
 void frmInputGC::Fill(const Project& project) {
     const std::string* texts[] = {&project.name, &project.place, &project.client, &project.contractNumber};
     for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_[i]->setText(ToQt(*texts[i]));
-    boxes_.front()->selectAll();
+    FocusAll(boxes_.front());
 }
 
 void frmInputGC::Confirm() {
