@@ -22,8 +22,9 @@ ReportList::ReportList(const QString& name, const QStringList& columns, QWidget*
     setAlternatingRowColors(true);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setTabKeyNavigation(false);
-    connect(header(), &QHeaderView::sectionResized, this, [this] {
-        if (!fitting_ && isVisible()) userSized_ = true;
+    connect(header(), &QHeaderView::sectionResized, this, [this](int column) {
+        // The last column stretches by itself.
+        if (!fitting_ && isVisible() && column + 1 < columnCount()) userSized_ = true;
     });
 }
 
@@ -105,10 +106,12 @@ void ReportList::FitColumnsSoon() {
 void ReportList::FitColumns() {
     if (userSized_ || !isVisible()) return;
     fitting_ = true;
+    header()->setStretchLastSection(false);  // a stretched column has no width of its own
     for (int column = 0; column < columnCount(); ++column) {
         resizeColumnToContents(column);
         setColumnWidth(column, columnWidth(column) + kColumnPadding);
     }
+    header()->setStretchLastSection(header()->length() < viewport()->width());
     fitting_ = false;
 }
 

@@ -7,6 +7,21 @@
 #include "ui/screen_memory.h"
 
 namespace kalvane {
+namespace {
+
+/// Each further child screen comes up this many pixels right of and below the one before, and after that
+/// many at the corner again.
+constexpr int kCascadeStep = 32;
+constexpr int kCascadeLength = 6;
+
+/// Shrinks and moves a child window until all of it can be seen.
+void KeepInside(QWidget& child, QSize area) {
+    child.resize(child.size().boundedTo(area));
+    const QSize room = area - child.size();
+    child.move(qBound(0, child.x(), room.width()), qBound(0, child.y(), room.height()));
+}
+
+}  // namespace
 
 Screen::Screen(const QString& name, const QString& title, QWidget* parent) : QDialog(parent) {
     setObjectName(name);
@@ -40,8 +55,11 @@ void Screen::ShowModeless() {
     const bool remembered = !Remembered(GeometryKey(), {}).isEmpty();
     show();
     if (!remembered) {
-        child->resize((child->size() + wanted - size()).boundedTo(area->viewport()->size()));
+        child->resize(child->size() + wanted - size());
+        const auto others = static_cast<int>(area->subWindowList().size()) - 1;
+        child->move(QPoint(kCascadeStep, kCascadeStep) * (others % kCascadeLength));
     }
+    KeepInside(*child, area->viewport()->size());
     child->raise();
 }
 
