@@ -1,11 +1,13 @@
 #include "app/store_setup.h"
 
+#include <unistd.h>
+
 #include <functional>
 #include <string>
 
 #include "app/enc_decrypt.h"
 #include "app/starter_library.h"
-#include "platform/error.h"
+#include "platform/files.h"
 #include "store/connection.h"
 #include "store/store_files.h"
 
@@ -27,17 +29,22 @@ void FillUsers(Connection& users) {
 void CreateWhole(const std::filesystem::path& file, StoreKind kind,
                  const std::function<void(Connection&)>& fill) {
     if (std::filesystem::exists(file)) return;
+    // Two programs may find the folder empty at the same moment.
     std::filesystem::path unfinished = file;
-    unfinished += ".new";
+    unfinished += ".new" + std::to_string(::getpid());
     std::error_code failure;
     std::filesystem::remove(unfinished, failure);
-    CreateStore(unfinished, kind);
-    if (fill) {
-        Connection connection(unfinished, kind);
-        fill(connection);
+    try {
+        CreateStore(unfinished, kind);
+        if (fill) {
+            Connection connection(unfinished, kind);
+            fill(connection);
+        }
+    } catch (...) {
+        std::filesystem::remove(unfinished, failure);
+        throw;
     }
-    std::filesystem::rename(unfinished, file, failure);
-    if (failure) throw FileError("不能建立数据库文件“" + file.string() + "”：" + failure.message() + "。");
+    RenameUnlessTaken(unfinished, file);
 }
 
 }  // namespace

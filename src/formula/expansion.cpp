@@ -21,13 +21,8 @@ struct Multiplier {
 class TypeExpansion {
   public:
     TypeExpansion(Connection& connection, const std::string& typeId, const LabelSet& labels,
-                  const Multiplier& multiplier, MissingUnit missingUnit, const BillSink& sink)
-        : connection_(connection),
-          typeId_(typeId),
-          labels_(labels),
-          multiplier_(multiplier),
-          missingUnit_(missingUnit),
-          sink_(sink) {}
+                  const Multiplier& multiplier, const BillSink& sink)
+        : connection_(connection), typeId_(typeId), labels_(labels), multiplier_(multiplier), sink_(sink) {}
 
     void Run() {
         Bars("窗型材", MaterialClass::Profile);
@@ -62,11 +57,8 @@ class TypeExpansion {
             bill.materialClass = MaterialClass::Fitting;
             bill.name = row.Field("名称").Text();
             bill.spec = row.Field("规格").Text();
-            std::int16_t each = 0;
-            if (!row.Field("单位").IsNull() || missingUnit_ == MissingUnit::IsFailure) {
-                bill.unit = row.Field("单位").Text();
-                each = RoundToInt16(Val(ShortText(Evaluate(row.Field("数量")))));
-            }
+            bill.unit = row.Field("单位").Text();
+            const std::int16_t each = RoundToInt16(Val(ShortText(Evaluate(row.Field("数量")))));
             bill.quantity = ShortText(each * Val(multiplier_.fittingPieces));
             if (multiplier_.count) bill.quantity = ShortText(Val(bill.quantity) * *multiplier_.count);
             sink_(bill);
@@ -89,7 +81,6 @@ class TypeExpansion {
     const std::string& typeId_;
     const LabelSet& labels_;
     const Multiplier& multiplier_;
-    MissingUnit missingUnit_;
     const BillSink& sink_;
 };
 
@@ -99,19 +90,17 @@ bool IsComposite(const WindowToExpand& window) {
     return Val(window.typeId) < 0;
 }
 
-void ExpandPlain(Connection& connection, const WindowToExpand& window, Notice& notice, const BillSink& sink,
-                 MissingUnit missingUnit) {
+void ExpandPlain(Connection& connection, const WindowToExpand& window, Notice& notice, const BillSink& sink) {
     try {
         const LabelSet labels = LoadPlainLabels(connection, window.id);
         const Multiplier multiplier{window.count, window.count, std::nullopt};
-        TypeExpansion(connection, window.typeId, labels, multiplier, missingUnit, sink).Run();
+        TypeExpansion(connection, window.typeId, labels, multiplier, sink).Run();
     } catch (const Error& failure) {
         notice.Show(failure.what(), "出错！", NoticeIcon::Error);
     }
 }
 
-void ExpandComposite(Connection& connection, const WindowToExpand& window, const BillSink& sink,
-                     MissingUnit missingUnit) {
+void ExpandComposite(Connection& connection, const WindowToExpand& window, const BillSink& sink) {
     LabelSet labels;
     std::int16_t count = 0;
     Cursor member =
@@ -121,7 +110,7 @@ void ExpandComposite(Connection& connection, const WindowToExpand& window, const
         LoadMemberLabels(connection, window.id, cbn, member.Field("CMC").TextOrEmpty(), labels, count);
         const double pieces = ParseNumber(window.count);
         const Multiplier multiplier{ShortText(pieces * count), ShortText(pieces), count};
-        TypeExpansion(connection, cbn, labels, multiplier, missingUnit, sink).Run();
+        TypeExpansion(connection, cbn, labels, multiplier, sink).Run();
     }
 }
 

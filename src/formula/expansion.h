@@ -16,9 +16,6 @@ struct WindowToExpand {
     std::string count;  ///< 樘数
 };
 
-/// What a fitting row whose 单位 is Null comes to: a failure, or a row that counts 0 and has no unit.
-enum class MissingUnit { IsFailure, CountsZero };
-
 using BillSink = std::function<void(const BillRow&)>;
 
 /// True for a composite window: its 门窗编号 is below 0.
@@ -30,12 +27,10 @@ bool IsComposite(const WindowToExpand& window);
 ///
 /// A failure (a Null, a fitting quantity beyond 16 bits, a formula without end, what the sink throws) ends
 /// this window: its text goes to `notice`, and the rows handed on before stay.
-void ExpandPlain(Connection& connection, const WindowToExpand& window, Notice& notice, const BillSink& sink,
-                 MissingUnit missingUnit = MissingUnit::IsFailure);
+void ExpandPlain(Connection& connection, const WindowToExpand& window, Notice& notice, const BillSink& sink);
 
 /// As ExpandPlain for each member of a composite, times the member's count. Failures are thrown; a 樘数
 /// that is no number is one.
-void ExpandComposite(Connection& connection, const WindowToExpand& window, const BillSink& sink,
-                     MissingUnit missingUnit = MissingUnit::IsFailure);
+void ExpandComposite(Connection& connection, const WindowToExpand& window, const BillSink& sink);
 
 }  // namespace kalvane

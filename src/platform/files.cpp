@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <fstream>
 #include <iterator>
@@ -88,6 +89,18 @@ void WriteFileAtomically(const std::filesystem::path& path, std::string_view byt
     const std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : ".";
     const Descriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (directory.Get() >= 0) ::fsync(directory.Get());
+}
+
+void RenameUnlessTaken(const std::filesystem::path& finished, const std::filesystem::path& name) {
+    int failed = ::renameat2(AT_FDCWD, finished.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE);
+    // Some file systems know no such rename.
+    if (failed != 0 && errno == EINVAL && !std::filesystem::exists(name)) {
+        failed = ::rename(finished.c_str(), name.c_str());
+    }
+    if (failed == 0) return;
+    const int reason = errno;
+    ::unlink(finished.c_str());
+    if (reason != EEXIST) FailWriting(name, reason);
 }
 
 }  // namespace kalvane

@@ -13,4 +13,8 @@ std::string ReadFile(const std::filesystem::path& path);
 /// renamed into place. A failure throws FileError and leaves the old file as it was.
 void WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes);
 
+/// Gives a finished file its name unless that name is taken by now; then the file is removed, and the one
+/// that has the name stays as it is. Throws FileError.
+void RenameUnlessTaken(const std::filesystem::path& finished, const std::filesystem::path& name);
+
 }  // namespace kalvane

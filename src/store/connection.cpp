@@ -75,7 +75,7 @@ Connection::Implementation::Implementation(const std::filesystem::path& path, St
     if (!std::filesystem::is_regular_file(path)) throw StoreError("没有数据库文件“" + name + "”。");
     const int opened = sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READWRITE, nullptr);
     try {
-        if (opened != SQLITE_OK) throw StoreError(EngineErrorText(database));
+        if (opened != SQLITE_OK) throw StoreError(name + "：" + EngineErrorText(database));
         sqlite3_busy_timeout(database, kBusyMilliseconds);
         // A quoted name that is no column must be an error, never a text.
         sqlite3_db_config(database, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
@@ -118,7 +118,7 @@ int Connection::Implementation::ReadPragma(const char* pragma) {
                       sqlite3_step(statement) == SQLITE_ROW;
     if (read) value = sqlite3_column_int(statement, 0);
     sqlite3_finalize(statement);
-    if (!read) throw StoreError(EngineErrorText(database));
+    if (!read) throw StoreError(file.filename().string() + "：" + EngineErrorText(database));
     return value;
 }
 

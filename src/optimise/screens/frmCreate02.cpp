@@ -1,6 +1,5 @@
 #include "optimise/screens/frmCreate02.h"
 
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -30,13 +29,7 @@ frmCreate02::frmCreate02(const std::string& projectNumber, QWidget* parent)
     QPushButton* next = MakeButton("CmdNext", QStringLiteral("&N 下一步"), this);
     next->setDefault(true);
     QPushButton* exit = MakeButton("Command1", QStringLiteral("&E 退出"), this);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(next);
-    buttons->addWidget(exit);
-    auto* rows = new QVBoxLayout(this);
-    rows->addWidget(lists_, 1);
-    rows->addLayout(buttons);
+    LayOutAboveButtons(this, lists_, {next, exit});
     resize(kFirstSize);
 
     OnSignal(next, &QPushButton::clicked, this, [this] { Next(); });

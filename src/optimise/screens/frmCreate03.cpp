@@ -1,7 +1,6 @@
 #include "optimise/screens/frmCreate03.h"
 
 #include <QApplication>
-#include <QHBoxLayout>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -56,14 +55,7 @@ frmCreate03::frmCreate03(QWidget* parent)
     QPushButton* next = MakeButton("CmdNext", QStringLiteral("&Y 优化"), this);
     next->setDefault(true);
     QPushButton* exit = MakeButton("Command1", QStringLiteral("&E 退出"), this);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(progressBar_, 1);
-    buttons->addSpacing(12);
-    buttons->addWidget(next);
-    buttons->addWidget(exit);
-    auto* rows = new QVBoxLayout(this);
-    rows->addWidget(lists_, 1);
-    rows->addLayout(buttons);
+    LayOutAboveButtons(this, lists_, {next, exit}, progressBar_);
     resize(kFirstSize);
 
     OnSignal(next, &QPushButton::clicked, this, [this] { Next(); });

@@ -1,5 +1,6 @@
 #include "project/screens/command_buttons.h"
 
+#include <QBoxLayout>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -15,6 +16,22 @@ QPushButton* MakeButton(const char* name, const QString& caption, QWidget* scree
 void MarkAsComing(QPushButton* button) {
     button->setEnabled(false);
     button->setToolTip(QStringLiteral("此功能将在后续版本中提供。"));
+}
+
+void LayOutAboveButtons(QWidget* screen, QWidget* body, std::initializer_list<QPushButton*> buttons,
+                        QWidget* beside) {
+    constexpr int kGap = 12;
+    auto* row = new QHBoxLayout;
+    if (beside == nullptr) {
+        row->addStretch();
+    } else {
+        row->addWidget(beside, 1);
+        row->addSpacing(kGap);
+    }
+    for (QPushButton* button : buttons) row->addWidget(button);
+    auto* rows = new QVBoxLayout(screen);
+    rows->addWidget(body, 1);
+    rows->addLayout(row);
 }
 
 void PressOnKey(QWidget* list, int key, QPushButton* button) {

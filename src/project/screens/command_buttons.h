@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <initializer_list>
 
 class QPushButton;
 class QWidget;
@@ -13,6 +14,11 @@ QPushButton* MakeButton(const char* name, const QString& caption, QWidget* scree
 
 /// Disables a button whose screen is still to come.
 void MarkAsComing(QPushButton* button);
+
+/// Lays out a screen as a body with a row of buttons below, at the right. `beside`, which may be null, takes
+/// the room left of them.
+void LayOutAboveButtons(QWidget* screen, QWidget* body, std::initializer_list<QPushButton*> buttons,
+                        QWidget* beside = nullptr);
 
 /// Presses `button` when that key is hit while `list` has the focus.
 void PressOnKey(QWidget* list, int key, QPushButton* button);
