@@ -85,6 +85,11 @@ void ReportList::showEvent(QShowEvent* event) {
     FitColumns();
 }
 
+void ReportList::resizeEvent(QResizeEvent* event) {
+    QTreeWidget::resizeEvent(event);
+    FitColumnsSoon();
+}
+
 QTreeWidgetItem* ReportList::Item(int row) const {
     QTreeWidgetItem* item = topLevelItem(row);
     KALVANE_ASSERT(item != nullptr);

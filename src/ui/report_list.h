@@ -32,6 +32,7 @@ class ReportList : public QTreeWidget {
 
   protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     QTreeWidgetItem* Item(int row) const;
