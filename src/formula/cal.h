@@ -3,50 +3,60 @@
 #include <string>
 #include <string_view>
 
+#include "formula/cal_token.h"
 #include "formula/cqueue.h"
 #include "formula/cstack.h"
 
 namespace kalvane {
 
-/// Evaluates formula texts. A two-pass machine: the shunting-yard method turns the text into postfix order,
-/// and a stack evaluates that. It knows numbers, + - * / with the usual precedence, parentheses and seven
-/// functions (SIN COS ATN EXP LOG SQR TAN, angles in degrees with 3.14 for pi), and no unary operator.
-///
-/// There is no wrong text: what the machine cannot read it passes over, an absent operand reads as 0, and an
-/// operation without a result leaves nothing behind. Every operation's result is cut to 15 digits, the
-/// formula's to a 32-bit float. The one exception: a text that would keep the machine busy for ever (a ")"
-/// too many, a label whose value holds its own name) throws FormulaError.
-///
-/// What is left on the stack at the end stays for the next formula on the same object and may serve it as
-/// absent operands.
+/// Turns a formula text into a number. A small machine of two passes: the first brings the text into
+/// postfix order with an operator stack, the second evaluates the postfix on the same stack. It checks no
+/// syntax and repairs nothing, every text gives a number, and the formulas of the window types were written
+/// against exactly these numbers: absent operands read as 0, unknown characters only separate, and what a
+/// formula leaves on the stack serves as operand of the next one on the same object.
 class Cal {
   public:
-    /// `text` in capitals with every `oldText` (in either case) replaced by `newText` as it stands; each
-    /// replacement starts the search from the first character again. Throws FormulaError when that would
-    /// never end, and when the text grows beyond 32767 characters.
-    std::string Replace(std::string_view text, std::string_view oldText, std::string_view newText) const;
+    /// Most characters of a text: positions in a formula are 16-bit.
+    static constexpr std::size_t kMostCharacters = 32767;
 
-    /// As Replace, in one pass over the text as it stood: what was put in is not searched.
-    std::string Replace1(std::string_view text, std::string_view oldText, std::string_view newText) const;
+    /// `text` in capitals with every `old`, whatever its case, replaced by `replacement` as it stands. The
+    /// search starts anew at the front after each replacement, so that an `old` that comes into being is
+    /// replaced too. Throws FormulaError where that has no end: `old` is empty and the text is not, or it
+    /// occurs and the replacement, in capitals, holds it, or the text grows beyond kMostCharacters.
+    static std::string Replace(std::string_view text, std::string_view old, std::string_view replacement);
 
-    /// The value of a formula. Throws FormulaError for a text that has no end.
+    /// The same in one pass: what has been put in is not searched again. Throws FormulaError when `old` is
+    /// empty and `text` is not.
+    static std::string Replace1(std::string_view text, std::string_view old, std::string_view replacement);
+
+    /// The value of a formula. It knows + - * / from left to right, * and / before the others, none of them
+    /// unary; parentheses; SIN, COS, TAN of degrees and ATN in degrees, all with 3.14 for pi; EXP, LOG
+    /// (natural) and SQR. Each operation is computed in 64 bits and cut to 15 digits; only the result is cut
+    /// to 32 bits. An operation without a value (a division by zero, a root of a negative) yields nothing,
+    /// and a result beyond 32 bits leaves the one before it. Throws FormulaError, with the object as good as
+    /// new but for its last result, when a ")" finds nothing to close; and, with the object untouched, beyond
+    /// kMostCharacters.
     float CalExpress(std::string_view formula);
 
   private:
-    void ToPostfix(std::string_view folded);
-    void Operator(char character);
-    void CloseParenthesis(std::string_view folded);
-    void Evaluate();
-    void Operate(char mark);
-    void Apply(char function);
+    /// First pass: the text's tokens to the raw queue, in postfix order. False when a ")" finds nothing to
+    /// close, which would leave it searching for ever.
+    bool ReadTokens(std::string_view text);
+    bool CloseParenthesis();
+    void DropEmptyTokens();
 
-    CQueue rawQueue_;
-    CStack workStack_;
-    CQueue postfixQueue_;
+    /// Second pass.
+    void Evaluate();
+    void PushResult(double result);
+
+    BasicCQueue<CalToken> rawQueue_;      // first pass, empty tokens included
+    BasicCStack<CalToken> workStack_;     // operators of the first pass, operands of the second
+    BasicCQueue<CalToken> postfixQueue_;  // first pass without the empty ones
     float lastResult_ = 0;
 };
 
-/// Cal::Replace on a text that is already at hand.
-void ReplaceInPlace(std::string& text, std::string_view oldText, std::string_view newText);
+/// In a text in capitals, replaces every `old` (in capitals too) by `replacement` as Cal::Replace does.
+/// Returns whether there was one.
+bool Substitute(std::string& text, std::string_view old, std::string_view replacement);
 
 }  // namespace kalvane

@@ -1,24 +1,39 @@
 #pragma once
 
+#include <string_view>
+
 namespace kalvane {
 
-/// One entry of the evaluator's stack and queues. Numbers stand converted, which changes nothing: a number
-/// that has crossed the stack as text and one that was cut to the digits of that text are the same.
-struct CalToken {
-    /// What the entry is: kNumber, kEmpty, kMalformed, kNull, or the character of an operator, of an
-    /// opening parenthesis or of a function code.
-    char mark;
-    double number;  ///< of a kNumber; all other entries read as 0
+/// What the evaluator makes of one piece of formula text, found out once instead of at each use: an
+/// operator character, a number, nothing, or a text that is neither and counts for nothing.
+class CalToken {
+  public:
+    /// A token without content, so that arrays of them cost nothing; to be assigned before it is read.
+    CalToken() = default;
 
-    static constexpr char kNumber = '0';
-    static constexpr char kEmpty = ' ';      ///< a number buffer without digits
-    static constexpr char kMalformed = '.';  ///< digits and points that make no number
-    static constexpr char kNull = 'N';       ///< the answer of an empty stack
+    /// Nothing for an empty text, a number for digits with at most one dot, neither for all else. A number
+    /// beyond a 64-bit float reads as infinity.
+    explicit CalToken(std::string_view text);
 
-    static CalToken Of(char mark) { return {mark, 0}; }
-    static CalToken Number(double value) { return {kNumber, value}; }
+    explicit constexpr CalToken(char operation) : kind_(operation), value_(0) {}
+    explicit constexpr CalToken(double number) : kind_(kNumber), value_(number) {}
 
-    bool IsNumber() const { return mark == kNumber; }
+    bool IsNothing() const { return kind_ == kNothing; }
+    bool IsNumber() const { return kind_ == kNumber; }
+
+    /// The operator character; a character that is no operator for all other tokens.
+    char Operation() const { return kind_; }
+
+    /// The number that the text reads as: 0 for every text that is none.
+    double Value() const { return value_; }
+
+  private:
+    static constexpr char kNothing = 'e';
+    static constexpr char kNumber = 'n';
+    static constexpr char kNeither = '?';
+
+    char kind_;
+    double value_;
 };
 
 }  // namespace kalvane

@@ -1,48 +1,61 @@
 #pragma once
 
-#include "formula/cal_token.h"
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace kalvane {
 
-/// The evaluator's queue: a ring of 101 slots that holds 100 entries. An entry too many is lost, and an
-/// empty queue answers with a kEmpty entry; the message tells of either until ShowEnd.
-class CQueue {
+/// A ring of 101 slots for at most 100 entries that never fails: what does not fit is lost, and only the
+/// message tells. `Entry` is a text or anything that can be made from one.
+template <typename Entry>
+class BasicCQueue {
   public:
-    const char* GetErrorMessage() const { return message_; }
-    void EnQueue(CalToken token) {
+    /// "Overflow" or "Empty" after the call that met it, until ShowEnd; "None" otherwise.
+    std::string_view GetErrorMessage() const { return message_; }
+
+    /// Lost when the queue is full.
+    void EnQueue(const Entry& entry) {
         if (IsFull()) {
             message_ = "Overflow";
             return;
         }
-        items_[tail_] = token;
+        items_[static_cast<std::size_t>(tail_)] = entry;
         tail_ = Next(tail_);
     }
-    CalToken DeQueue() {
+
+    /// The oldest entry, taken out; the entry of the empty text when there is none.
+    Entry DeQueue() {
         if (IsEmpty()) {
             message_ = "Empty";
-            return CalToken::Of(CalToken::kEmpty);
+            return Entry("");
         }
-        const CalToken token = items_[head_];
+        const auto taken = static_cast<std::size_t>(head_);
         head_ = Next(head_);
-        return token;
+        return items_[taken];
     }
+
     bool IsEmpty() const { return head_ == tail_; }
     bool IsFull() const { return Next(tail_) == head_; }
 
-    /// The slot that the next entry will take, as it stands.
-    CalToken ShowEnd() {
+    /// What lies in the next free slot: an entry taken out long ago, or nothing yet. Resets the message.
+    Entry ShowEnd() {
         message_ = "None";
-        return items_[tail_];
+        return items_[static_cast<std::size_t>(tail_)];
     }
 
   private:
-    static constexpr int kSlots = 101;
-    static constexpr int Next(int slot) { return slot + 1 == kSlots ? 0 : slot + 1; }
+    static constexpr std::int32_t kSlots = 101;
 
-    CalToken items_[kSlots];  // not cleared: an entry is written before it is read, but for ShowEnd
-    int head_ = 0;
-    int tail_ = 0;
-    const char* message_ = "None";
+    static constexpr std::int32_t Next(std::int32_t slot) { return slot + 1 == kSlots ? 0 : slot + 1; }
+
+    std::array<Entry, kSlots> items_;
+    std::int32_t head_ = 0;
+    std::int32_t tail_ = 0;
+    std::string_view message_ = "None";
 };
+
+using CQueue = BasicCQueue<std::string>;
 
 }  // namespace kalvane

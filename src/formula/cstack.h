@@ -1,30 +1,42 @@
 #pragma once
 
-#include <cstddef>
-
-#include "formula/cal_token.h"
+#include <array>
+#include <cstdint>
+#include <string>
 
 namespace kalvane {
 
-/// The evaluator's stack: 101 entries. A push on the full stack is lost, and an empty stack answers with a
-/// kNull entry and stays empty.
-class CStack {
+/// A stack of 101 entries that never fails: what does not fit is lost, and an empty stack answers "NULL".
+/// `Entry` is a text or anything that can be made from one.
+template <typename Entry>
+class BasicCStack {
   public:
-    void Push(CalToken token) {
-        if (!IsFull()) items_[++top_] = token;
+    /// Ignored when the stack is full.
+    void Push(const Entry& entry) {
+        if (IsFull()) return;
+        items_[static_cast<std::size_t>(++top_)] = entry;
     }
-    CalToken Pop() {
-        if (IsEmpty()) return CalToken::Of(CalToken::kNull);
-        return items_[top_--];
+
+    /// The top entry, taken off; the entry of the text "NULL" when the stack is empty.
+    Entry Pop() {
+        Entry entry = Top();
+        if (!IsEmpty()) --top_;
+        return entry;
     }
-    CalToken Top() const { return IsEmpty() ? CalToken::Of(CalToken::kNull) : items_[top_]; }
+
+    /// As Pop, with the entry left where it is.
+    Entry Top() const { return IsEmpty() ? Entry("NULL") : items_[static_cast<std::size_t>(top_)]; }
+
     bool IsEmpty() const { return top_ == -1; }
-    bool IsFull() const { return top_ == kCapacity - 1; }
+    bool IsFull() const { return top_ == kLast; }
 
   private:
-    static constexpr int kCapacity = 101;
-    CalToken items_[kCapacity];  // not cleared: an entry is written before it is read
-    int top_ = -1;
+    static constexpr std::int32_t kLast = 100;
+
+    std::array<Entry, kLast + 1> items_;
+    std::int32_t top_ = -1;
 };
+
+using CStack = BasicCStack<std::string>;
 
 }  // namespace kalvane

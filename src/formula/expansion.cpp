@@ -21,8 +21,13 @@ struct Multiplier {
 class TypeExpansion {
   public:
     TypeExpansion(Connection& connection, const std::string& typeId, const LabelSet& labels,
-                  const Multiplier& multiplier, const BillSink& sink)
-        : connection_(connection), typeId_(typeId), labels_(labels), multiplier_(multiplier), sink_(sink) {}
+                  const Multiplier& multiplier, MissingUnit missingUnit, const BillSink& sink)
+        : connection_(connection),
+          typeId_(typeId),
+          labels_(labels),
+          multiplier_(multiplier),
+          missingUnit_(missingUnit),
+          sink_(sink) {}
 
     void Run() {
         Bars("窗型材", MaterialClass::Profile);
@@ -57,8 +62,11 @@ class TypeExpansion {
             bill.materialClass = MaterialClass::Fitting;
             bill.name = row.Field("名称").Text();
             bill.spec = row.Field("规格").Text();
-            bill.unit = row.Field("单位").Text();
-            const std::int16_t each = RoundToInt16(Val(ShortText(Evaluate(row.Field("数量")))));
+            std::int16_t each = 0;
+            if (!row.Field("单位").IsNull() || missingUnit_ == MissingUnit::IsFailure) {
+                bill.unit = row.Field("单位").Text();
+                each = RoundToInt16(Val(ShortText(Evaluate(row.Field("数量")))));
+            }
             bill.quantity = ShortText(each * Val(multiplier_.fittingPieces));
             if (multiplier_.count) bill.quantity = ShortText(Val(bill.quantity) * *multiplier_.count);
             sink_(bill);
@@ -81,6 +89,7 @@ class TypeExpansion {
     const std::string& typeId_;
     const LabelSet& labels_;
     const Multiplier& multiplier_;
+    MissingUnit missingUnit_;
     const BillSink& sink_;
 };
 
@@ -90,27 +99,29 @@ bool IsComposite(const WindowToExpand& window) {
     return Val(window.typeId) < 0;
 }
 
-void ExpandPlain(Connection& connection, const WindowToExpand& window, Notice& notice, const BillSink& sink) {
+void ExpandPlain(Connection& connection, const WindowToExpand& window, Notice& notice, const BillSink& sink,
+                 MissingUnit missingUnit) {
     try {
         const LabelSet labels = LoadPlainLabels(connection, window.id);
         const Multiplier multiplier{window.count, window.count, std::nullopt};
-        TypeExpansion(connection, window.typeId, labels, multiplier, sink).Run();
+        TypeExpansion(connection, window.typeId, labels, multiplier, missingUnit, sink).Run();
     } catch (const Error& failure) {
-        notice.Show(failure.what(), "", NoticeIcon::None);
+        notice.Show(failure.what(), "出错！", NoticeIcon::Error);
     }
 }
 
-void ExpandComposite(Connection& connection, const WindowToExpand& window, const BillSink& sink) {
+void ExpandComposite(Connection& connection, const WindowToExpand& window, const BillSink& sink,
+                     MissingUnit missingUnit) {
     LabelSet labels;
     std::int16_t count = 0;
     Cursor member =
-        connection.OpenCursor("Select CBN,CMC from 标注2 where MCBN=" + window.id + " Group By CBN,CMC");
+        connection.OpenCursor("Select CBN,CMC from 标注2 where MCBN=" + window.id + " Group by CBN,CMC");
     for (; !member.Eof(); member.MoveNext()) {
         const std::string cbn = member.Field("CBN").Text();
         LoadMemberLabels(connection, window.id, cbn, member.Field("CMC").TextOrEmpty(), labels, count);
         const double pieces = ParseNumber(window.count);
         const Multiplier multiplier{ShortText(pieces * count), ShortText(pieces), count};
-        TypeExpansion(connection, cbn, labels, multiplier, sink).Run();
+        TypeExpansion(connection, cbn, labels, multiplier, missingUnit, sink).Run();
     }
 }
 

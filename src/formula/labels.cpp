@@ -5,6 +5,7 @@
 #include "formula/cal.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
+#include "platform/assertion.h"
 
 namespace kalvane {
 namespace {
@@ -63,8 +64,13 @@ void SortLabelsByLength(std::vector<std::string>& names, std::vector<std::string
 
 float EvalWithLabels(std::string_view formula, const std::vector<std::string>& names,
                      const std::vector<std::string>& values, std::int16_t last) {
-    std::string text(formula);
-    for (std::size_t i = 0; static_cast<int>(i) <= last; ++i) ReplaceInPlace(text, names[i], values[i]);
+    const auto count = static_cast<std::size_t>(last + 1);
+    KALVANE_ASSERT(names.size() >= count && values.size() >= count);
+    std::string text = UpperCase(formula);
+    for (std::size_t i = 0; i < count; ++i) {
+        // A value goes in as it stands, and counts in capitals from the next label on.
+        if (Substitute(text, UpperCase(names[i]), values[i])) text = UpperCase(text);
+    }
     return Cal().CalExpress(text);
 }
 

@@ -14,7 +14,7 @@ namespace {
 /// Takes the next field and what ends it off `rest`.
 std::string TakeField(std::string_view& rest) {
     const std::size_t end = std::min(rest.find_first_of(",\r\n"), rest.size());
-    const std::string field(Trim(rest.substr(0, end)));
+    std::string field(Trim(rest.substr(0, end)));
     rest.remove_prefix(end);
     if (rest.starts_with("\r\n")) {
         rest.remove_prefix(2);

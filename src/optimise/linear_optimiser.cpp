@@ -55,7 +55,7 @@ void LinearOptimiser::SamplePieces() {
     if (settings_.NODES == 0) throw NumericError::DivisionByZero();
     const std::int16_t step = FloorToInt16(static_cast<double>(pieceTable_.GetCount()) / settings_.NODES);
     for (int k = 1; k <= settings_.NODES; ++k) {
-        poolTable_.AddItem(pieceTable_.GetItemValue(Checked16(step * k)));
+        poolTable_.AddItem(pieceTable_.GetItemValue(Checked16(std::int64_t{step} * k)));
     }
 }
 
@@ -103,7 +103,7 @@ void LinearOptimiser::EmitRepeated(const std::string& name, std::int16_t stock, 
         sum += std::int64_t{record.count} * record.length;
     }
     WriteRow(name, repetition, static_cast<float>(static_cast<double>(sum) / stock));
-    for (YHRecord& record : pattern) record.count = Checked16(record.count * repetition);
+    for (YHRecord& record : pattern) record.count = Checked16(std::int64_t{record.count} * repetition);
     pieces.DeleteList(pattern);
 }
 

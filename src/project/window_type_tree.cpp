@@ -1,11 +1,14 @@
 #include "project/window_type_tree.h"
 
+#include "platform/error.h"
 #include "store/helpers.h"
 
 namespace kalvane {
 namespace {
 
-constexpr std::size_t kDrawingSlot = 4;  // 图号 is the fifth column of 门窗
+// Columns of 门窗.
+constexpr std::size_t kNameSlot = 2;
+constexpr std::size_t kDrawingSlot = 4;
 
 std::vector<TypeNode> LoadLevel(Connection& connection, const char* kind, const std::string& select) {
     std::vector<TypeNode> nodes;
@@ -37,6 +40,9 @@ std::vector<TypeNode> LoadWindowTypes(Connection& connection) {
 
 std::string DrawingOfWindowType(Connection& connection, std::string_view typeNumber, FieldSlots& slots) {
     LoadRowById(connection, "门窗", typeNumber, slots);
+    if (slots[kDrawingSlot].empty()) {
+        throw StoreError("窗型“" + slots[kNameSlot] + "”还没有图，请先在“窗型设计”中为它选图。");
+    }
     return slots[kDrawingSlot];
 }
 

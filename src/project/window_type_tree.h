@@ -24,7 +24,7 @@ bool IsWindowType(std::string_view tag);
 std::vector<TypeNode> LoadWindowTypes(Connection& connection);
 
 /// Reads the row of a window type to `slots` and returns its drawing's number. Throws StoreError when there
-/// is no such window type.
+/// is no such window type or no drawing was chosen for it.
 std::string DrawingOfWindowType(Connection& connection, std::string_view typeNumber, FieldSlots& slots);
 
 }  // namespace kalvane

@@ -8,24 +8,15 @@
 #include <optional>
 
 #include "platform/error.h"
+#include "support/temp_folder.h"
 
 namespace kalvane {
 namespace {
 
-class InstanceLockTest : public testing::Test {
-  protected:
-    void SetUp() override {
-        std::string pattern = testing::TempDir() + "lockXXXXXX";
-        folder_ = mkdtemp(pattern.data());
-    }
-    void TearDown() override { std::filesystem::remove_all(folder_); }
-
-    std::filesystem::path folder_;
-};
-
-TEST_F(InstanceLockTest, IsHeldByOneAndFreedWithIt) {
-    std::optional<InstanceLock> first(folder_);
-    InstanceLock second(folder_);
+TEST(InstanceLock, IsHeldByOneAndFreedWithIt) {
+    const test::TempFolder folder;
+    std::optional<InstanceLock> first(folder.Path());
+    InstanceLock second(folder.Path());
     EXPECT_TRUE(first->Acquire());
     EXPECT_TRUE(first->Acquire());  // asking again changes nothing
     EXPECT_FALSE(second.Acquire());
@@ -33,20 +24,13 @@ TEST_F(InstanceLockTest, IsHeldByOneAndFreedWithIt) {
     EXPECT_TRUE(second.Acquire());
 }
 
-TEST_F(InstanceLockTest, AnotherFolderIsAnotherProgram) {
-    std::filesystem::create_directory(folder_ / "b");
-    InstanceLock first(folder_);
-    InstanceLock second(folder_ / "b");
-    EXPECT_TRUE(first.Acquire());
-    EXPECT_TRUE(second.Acquire());
-}
-
-TEST_F(InstanceLockTest, AKilledProgramLeavesNoLock) {
+TEST(InstanceLock, AKilledProgramLeavesNoLock) {
+    const test::TempFolder folder;
     int ready[2];
     ASSERT_EQ(pipe(ready), 0);
     const pid_t child = fork();
     if (child == 0) {
-        InstanceLock lock(folder_);
+        InstanceLock lock(folder.Path());
         const char held = lock.Acquire() ? 'y' : 'n';
         if (write(ready[1], &held, 1) != 1) _exit(1);
         pause();
@@ -55,7 +39,7 @@ TEST_F(InstanceLockTest, AKilledProgramLeavesNoLock) {
     char held = 0;
     ASSERT_EQ(read(ready[0], &held, 1), 1);
     EXPECT_EQ(held, 'y');
-    InstanceLock lock(folder_);
+    InstanceLock lock(folder.Path());
     EXPECT_FALSE(lock.Acquire());
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
@@ -64,8 +48,9 @@ TEST_F(InstanceLockTest, AKilledProgramLeavesNoLock) {
     close(ready[1]);
 }
 
-TEST_F(InstanceLockTest, AMissingFolderIsTold) {
-    InstanceLock lock(folder_ / "missing");
+TEST(InstanceLock, AMissingFolderIsTold) {
+    const test::TempFolder folder;
+    InstanceLock lock(folder / "missing");
     EXPECT_THROW(lock.Acquire(), FileError);
 }
 

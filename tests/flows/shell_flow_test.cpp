@@ -199,9 +199,11 @@ TEST_F(MainScreenTest, RightsEnableEntries) {
         const char* enabled;
     };
     const Case cases[] = {
-        {"111111111111", "mnuProject mnuExit mnuChangeBackgroup mnuClearCK mnuAbout mnuHelps x4 x7 x8"},
-        {"111011110110", "mnuExit mnuAbout mnuHelps x7 x8"},
+        {"111111111111",
+         "mnuProject mnuYouhua mnuExit mnuChangeBackgroup mnuClearCK mnuAbout mnuHelps x4 x5 x7 x8"},
+        {"111001110110", "mnuExit mnuAbout mnuHelps x7 x8"},
         {"000100000000", "mnuProject mnuExit mnuAbout mnuHelps x4 x7 x8"},
+        {"000010000000", "mnuYouhua mnuExit mnuAbout mnuHelps x5 x7 x8"},
         {"000000001000", "mnuExit mnuChangeBackgroup mnuAbout mnuHelps x7 x8"},
         {"000000000001", "mnuExit mnuClearCK mnuAbout mnuHelps x7 x8"},
         {"11111111111", "mnuExit mnuAbout mnuHelps x7 x8"},
@@ -232,6 +234,14 @@ TEST_F(MainScreenTest, AWorkScreenIsOpenOnce) {
         const QList<QMdiSubWindow*> children = frame.findChild<QMdiArea*>()->subWindowList();
         ASSERT_EQ(children.size(), 1) << command;
         EXPECT_EQ(children[0]->widget()->objectName(), QStringLiteral("frmMCGCGL"));
+    }
+}
+
+TEST_F(MainScreenTest, TheOptimisersModuleIsModal) {
+    MDIMain frame;
+    frame.Load();
+    for (const char* command : {"mnuYouhua", "x5"}) {
+        test::ModalScript().On("frmYHMain", [](QDialog&) {}).Run([&] { Trigger(frame, command); });
     }
 }
 

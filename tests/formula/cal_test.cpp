@@ -9,6 +9,35 @@
 namespace kalvane {
 namespace {
 
+TEST(CStack, LosesTheEntryTooManyAndAnswersNull) {
+    CStack stack;
+    EXPECT_EQ(stack.Top() + stack.Pop(), "NULLNULL");
+    EXPECT_TRUE(stack.IsEmpty());
+    for (int i = 0; i < 103; ++i) stack.Push(std::to_string(i));
+    EXPECT_TRUE(stack.IsFull());
+    EXPECT_EQ(stack.Top(), "100");
+    for (int i = 100; i >= 0; --i) ASSERT_EQ(stack.Pop(), std::to_string(i));
+    EXPECT_EQ(stack.Pop(), "NULL");
+}
+
+TEST(CQueue, TellsWhatWentWrongUntilItsEndIsShown) {
+    CQueue queue;
+    EXPECT_EQ(queue.GetErrorMessage(), "None");
+    EXPECT_EQ(queue.DeQueue(), "");
+    EXPECT_EQ(queue.GetErrorMessage(), "Empty");
+    for (int round = 0; round < 2; ++round) {  // the second time around the ring
+        for (int i = 0; i < 100; ++i) queue.EnQueue(std::to_string(i));
+        EXPECT_TRUE(queue.IsFull());
+        queue.EnQueue("lost");
+        EXPECT_EQ(queue.GetErrorMessage(), "Overflow");
+        // The free slot is the one behind the last entry: new at first, then the second round's slot 99.
+        EXPECT_EQ(queue.ShowEnd(), round == 0 ? "" : "99");
+        EXPECT_EQ(queue.GetErrorMessage(), "None");
+        for (int i = 0; i < 100; ++i) ASSERT_EQ(queue.DeQueue(), std::to_string(i));
+        EXPECT_TRUE(queue.IsEmpty());
+    }
+}
+
 TEST(Cal, EvaluatesByItsRules) {
     const struct {
         const char* formula;
@@ -57,13 +86,18 @@ TEST(Cal, EvaluatesByItsRules) {
         {"ATN(1)", 45.02282F},
         {"TAN(45)", 0.999204F},
         {"1/3", 0.333333333333333F},
+        {"1/3*3-1", -0x9P-53F},  // 0.999999999999999, nine steps of a 64-bit float below 1
+        {"0.00000000000000000001*5", 5E-20F},
+        {"9)*2(", 2},        // either parenthesis finds its counterpart outside the text
+        {"1\xE5\x8A 2", 2},  // half a character is a separator too
         {"100000000000000000000*10-1", 1e21F},
     };
     for (const auto& row : kTable) {
         EXPECT_FLOAT_EQ(Cal().CalExpress(row.formula), row.value) << row.formula;
     }
     const std::string nines(400, '9');
-    EXPECT_EQ(Cal().CalExpress(nines + "+1"), 0);  // no number holds such an operand
+    EXPECT_EQ(Cal().CalExpress(nines + "+1"), 0);                         // no number holds such an operand
+    EXPECT_EQ(Cal().CalExpress("7-." + std::string(400, '0') + "1"), 7);  // too small to be anything
     const std::string zeros(38, '0');
     EXPECT_EQ(Cal().CalExpress("1" + zeros + "*10"), 0);  // beyond a 32-bit float: the value before stands
     EXPECT_GT(std::fabs(Cal().CalExpress("TAN(90)")), 1000);
@@ -74,6 +108,16 @@ TEST(Cal, StopsWhereItWouldNeverEnd) {
     for (const char* formula : {"1)", ")", "(1+2))", "SQR(4))"}) {
         EXPECT_THROW(Cal().CalExpress(formula), FormulaError) << formula;
     }
+    // Of 110 parentheses 100 fit on the stack beside the first one: the others find nothing to close.
+    EXPECT_THROW(Cal().CalExpress(std::string(110, '(') + "1" + std::string(110, ')')), FormulaError);
+    // What was read of such a formula does not reach the next one.
+    Cal after;
+    EXPECT_THROW(after.CalExpress("1+2+3)"), FormulaError);
+    EXPECT_EQ(after.CalExpress("+4"), 4);
+    std::string chinese;
+    for (int i = 0; i < 32767; ++i) chinese += "框";
+    EXPECT_EQ(Cal().CalExpress(chinese), 0);
+    EXPECT_THROW(Cal().CalExpress(chinese + "框"), FormulaError);
     Cal cal;
     EXPECT_THROW(cal.Replace("H-b", "B", "2*b"), FormulaError);
     EXPECT_THROW(cal.Replace("H", "", "1"), FormulaError);
@@ -85,6 +129,9 @@ TEST(Cal, StopsWhereItWouldNeverEnd) {
     EXPECT_EQ(cal.Replace("aabb", "AB", ""), "");     // what closes up is replaced as well
     EXPECT_EQ(cal.Replace1("aabb", "ab", ""), "AB");  // in one pass it is not
     EXPECT_EQ(cal.Replace1("kh1-KH1", "kh1", "kh1+1"), "kh1+1-kh1+1");
+    EXPECT_EQ(cal.Replace("aab", "AB", "bb"), "Abb");    // small letters put in are not found
+    EXPECT_EQ(cal.Replace("AABB", "AB", "BA"), "BBAA");  // AABB, ABAB, BAAB, BABA, BBAA
+    EXPECT_THROW(cal.Replace1("H", "", "1"), FormulaError);
     EXPECT_EQ(cal.Replace1("框b", "B", "框"), "框框");
 }
 
@@ -112,9 +159,10 @@ TEST(Cal, KeepsLeftoversForTheNextFormula) {
 TEST(Cal, AgreesWithALiteralReading) {
     const unsigned seed = std::random_device{}();
     std::mt19937 random(seed);
-    const char* pieces[] = {"1", "2.5",  "600",  "0",    "1500", "33.333", "+", "-",    "*",    "/", "(",
-                            ")", "+",    "-",    "*",    "/",    "(",      ")", "SIN(", "cos(", "F", "B",
-                            "C", "SQR(", "LOG(", "ATN(", "EXP(", "TAN(",   " ", ".",    "^",    "x", "1.2.3"};
+    const char* pieces[] = {"1",    "2.5",  "600", "0", "1500", "33.333", "+",    "-",    "*",
+                            "/",    "(",    ")",   "+", "-",    "*",      "/",    "(",    ")",
+                            "SIN(", "cos(", "F",   "B", "C",    "SQR(",   "LOG(", "ATN(", "EXP(",
+                            "TAN(", " ",    ".",   "^", "框",   "1.2.3"};
     std::uniform_int_distribution<std::size_t> pick(0, std::size(pieces) - 1);
     std::uniform_int_distribution<int> length(0, 24);
     int finite = 0;
@@ -148,6 +196,8 @@ TEST(Labels, PutInLongestNameFirst) {
         {"B1", {"B"}, {"12"}, 121},   // a name inside a word that is no label
         {"B/6-41", {}, {}, 0.7547F},  // no label: B is the cosine, here of -41 degrees
         {"b+上亮高", {" 上亮高 ", "B"}, {" 400", "100"}, 500},
+        {"x", {"yy", "Z1", "X"}, {"1", "2", "z1"}, 1},  // Z1 had its turn; Z separates
+        {"x", {"X", "Y"}, {"y", "5"}, 5},  // a value in small letters is a name to the next label
         {"x", {"X", "x"}, {"1", "2"}, 1},  // equal names: the first after sorting
         {"3*B", {"B"}, {"-2"}, -2},        // 3 times an absent operand, minus 2
     };

@@ -74,7 +74,12 @@ TEST_F(ExpansionTest, PlainWindowEndsAtAFailureAndKeepsTheRowsBefore) {
     store->Execute("Update 窗配件 set 数量='99999' where 编号=1");
     const std::string rows = Plain({"1", "5", "1"});
     EXPECT_TRUE(rows.ends_with("衬钢|G1|214.2857||1|\n")) << rows;
-    EXPECT_EQ(notice.shown, std::vector<std::string>{"|溢出"});
+    EXPECT_EQ(notice.shown, std::vector<std::string>{"出错！|溢出"});
+    store->Execute("Update 窗配件 set 数量='1',单位=Null where 编号=1");
+    EXPECT_EQ(Plain({"1", "5", "1"}), rows);
+    std::string counted;
+    ExpandPlain(*store, {"1", "5", "1"}, notice, Collect(counted), MissingUnit::CountsZero);
+    EXPECT_NE(counted.find("滑轮|L1|||0|\n锁|S1|||3|把\n"), std::string::npos) << counted;
     store->Execute("Update 窗型材 set 规格=Null where 编号=2");
     EXPECT_EQ(Plain({"1", "5", "1"}), "框B|K60|1440||2|\n");
     store->Execute("Update 窗型材 set 计算公式='b)' where 编号=1");

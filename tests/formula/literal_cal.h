@@ -3,8 +3,9 @@
 #include <cmath>
 #include <limits>
 #include <string>
-#include <vector>
 
+#include "formula/cqueue.h"
+#include "formula/cstack.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
 
@@ -18,45 +19,45 @@ class LiteralCal {
 
     float CalExpress(const std::string& formula) {
         std::string text = Fold(UpperCase(formula)) + ")";
-        std::vector<std::string> raw;
-        const auto enqueue = [](std::vector<std::string>& queue, const std::string& entry) {
-            if (queue.size() < 100) queue.push_back(entry);
-        };
-        Push("(");
+        CQueue raw;
+        stack_.Push("(");
         std::string number;
         for (const char c : text) {
-            if (c == ' ') continue;
+            if (c == ' ' || (c & 0xC0) == 0x80) continue;  // a character of several bytes counts once
             if ((c >= '0' && c <= '9') || c == '.') {
                 number += c;
                 continue;
             }
-            enqueue(raw, number);
+            raw.EnQueue(number);
             number.clear();
             const std::string entry(1, c);
             if (c == '+' || c == '-') {
-                while (Top() == "*" || Top() == "/" || Top() == "+" || Top() == "-") enqueue(raw, Pop());
-                Push(entry);
+                while (stack_.Top() == "*" || stack_.Top() == "/" || stack_.Top() == "+" ||
+                       stack_.Top() == "-")
+                    raw.EnQueue(stack_.Pop());
+                stack_.Push(entry);
             } else if (c == '*' || c == '/') {
-                while (Top() == "*" || Top() == "/") enqueue(raw, Pop());
-                Push(entry);
+                while (stack_.Top() == "*" || stack_.Top() == "/") raw.EnQueue(stack_.Pop());
+                stack_.Push(entry);
             } else if (c == '(' || IsCode(entry)) {
-                Push(entry);
+                stack_.Push(entry);
             } else if (c == ')') {
                 for (;;) {
-                    if (stack_.empty()) {
+                    if (stack_.IsEmpty()) {
                         endless = true;
                         return 0;
                     }
-                    const std::string popped = Pop();
-                    if (popped != "(") enqueue(raw, popped);
+                    const std::string popped = stack_.Pop();
+                    if (popped != "(") raw.EnQueue(popped);
                     if (popped == "(" || IsCode(popped)) break;
                 }
             }
         }
-        for (const std::string& token : raw) {
+        while (!raw.IsEmpty()) {
+            const std::string token = raw.DeQueue();
             if (!token.empty()) Take(token);
         }
-        const double value = Val(Pop());
+        const double value = Val(stack_.Pop());
         if (std::fabs(value) <= static_cast<double>(std::numeric_limits<float>::max())) {
             last_ = static_cast<float>(value);
         }
@@ -84,19 +85,19 @@ class LiteralCal {
 
     void Take(const std::string& token) {
         if (IsNumeric(token)) {
-            Push(token);
+            stack_.Push(token);
             return;
         }
         double value = std::numeric_limits<double>::quiet_NaN();
         if (token == "+" || token == "-" || token == "*" || token == "/") {
-            const double right = Val(Pop());
-            const double left = Val(Pop());
+            const double right = Val(stack_.Pop());
+            const double left = Val(stack_.Pop());
             if (token == "+") value = left + right;
             if (token == "-") value = left - right;
             if (token == "*") value = left * right;
             if (token == "/") value = left / right;
         } else if (IsCode(token)) {
-            const double x = Val(Pop());
+            const double x = Val(stack_.Pop());
             if (token == "A") value = std::atan(x) / 3.14 * 180;
             if (token == "B") value = std::cos(x / 180 * 3.14);
             if (token == "C") value = std::exp(x);
@@ -105,20 +106,10 @@ class LiteralCal {
             if (token == "F") value = std::sqrt(x);
             if (token == "G") value = std::tan(x / 180 * 3.14);
         }
-        if (std::isfinite(value)) Push(" " + ShortText(value));
+        if (std::isfinite(value)) stack_.Push(" " + ShortText(value));
     }
 
-    void Push(const std::string& entry) {
-        if (stack_.size() < 101) stack_.push_back(entry);
-    }
-    std::string Top() const { return stack_.empty() ? "NULL" : stack_.back(); }
-    std::string Pop() {
-        std::string entry = Top();
-        if (!stack_.empty()) stack_.pop_back();
-        return entry;
-    }
-
-    std::vector<std::string> stack_;
+    CStack stack_;
     float last_ = 0;
 };
 

@@ -3,7 +3,6 @@
 #include <random>
 
 #include "numeric/number.h"
-#include "optimise/cstack_i.h"
 #include "optimise/ctable.h"
 #include "optimise/ctable02.h"
 #include "platform/error.h"
@@ -95,22 +94,6 @@ TEST(CTableTest, DeletesExactlyThePatternsPieces) {
             values = left;
         }
     }
-}
-
-TEST(CStackITest, TurnsSumsIntoAPattern) {
-    CStackI stack;
-    EXPECT_EQ(stack.Pop().sum, 0);
-    EXPECT_EQ(stack.SetToYHArray().YHArrayCount(), 0);
-    for (const int sum : {0, 820, 1640, 3160}) stack.Push({Checked16(sum), 1});
-    const YHArray pattern = stack.SetToYHArray();
-    ASSERT_EQ(pattern.YHArrayCount(), 2);
-    EXPECT_EQ(pattern[0].length, 820);
-    EXPECT_EQ(pattern[0].count, 2);
-    EXPECT_EQ(pattern[1].length, 1520);
-    EXPECT_EQ(pattern[1].count, 1);
-    for (std::int16_t i = 0; i < 200; ++i) stack.Push({4000, i});
-    EXPECT_TRUE(stack.IsFull());
-    EXPECT_EQ(stack.Top().position, 95);  // four records and 96 more fill the stack
 }
 
 TEST(YHArrayTest, HasRoomForAHundredLengths) {

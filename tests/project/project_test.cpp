@@ -81,7 +81,9 @@ TEST_F(ProjectTest, AWindowCarriesItsLabels) {
     ASSERT_EQ(listed.size(), 2U);
     EXPECT_EQ(listed[0].note, "备");
     EXPECT_FALSE(listed[0].IsComposite());
-    EXPECT_TRUE((WindowEntry{"", "", "", "", "", "", "7", "-5", "3"}.IsComposite()));
+    WindowEntry composite;
+    composite.typeNumber = "-5";
+    EXPECT_TRUE(composite.IsComposite());
     DeleteWindow(store_, "1");
     EXPECT_EQ(Rows("Select 编号 from 工程门窗") + Rows(kLabelColumns) + Rows("Select MC from 标注2"), "2");
 }

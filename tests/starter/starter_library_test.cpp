@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <regex>
@@ -15,7 +16,11 @@ namespace {
 
 using Row = std::vector<std::string>;
 
-constexpr double kBarLength = 5900;  // usable part of a 6000 mm bar
+constexpr double kBarLength = 5900;    // usable part of a 6000 mm bar
+constexpr double kPanelInRebate = 15;  // mm of a panel hidden at each edge
+constexpr double kDrawnToWithin = 4;   // mm; drawings are in whole units of a third of a millimetre or so
+constexpr double kSheetScale = 5500 / 9495.0;  // component sheet to drawing, in x
+constexpr double kStub = 186;                  // twips that a mark's end sticks out, at any scale
 
 /// The new store of a workshop, made once for all tests.
 class StarterLibraryTest : public testing::Test {
@@ -204,6 +209,48 @@ TEST_F(StarterLibraryTest, SlidingLeafFollowsItsInterlock) {
     EXPECT_EQ(value("宽公式 from 窗板材", "数量=2"), 1202);
 }
 
+double Span(const std::string& from, const std::string& to) {
+    return std::abs(std::stod(to) - std::stod(from));
+}
+
+/// A drawing and the formulas tell of one window, so each is a check on the other: every label has a mark as
+/// long as its value, and every panel, less what its rebate hides, is seen as a rectangle.
+TEST_F(StarterLibraryTest, DrawingsAreTrueToScaleAndShowThePanelsThatAreCut) {
+    for (const Row& window : Select("编号,门窗编号,洞口宽,门窗名称 from 工程门窗")) {
+        SCOPED_TRACE(window[3]);
+        const std::string ofDrawing = " where Bn=" + Select("图号 from 门窗 where 编号=" + window[1])[0][0];
+        const LabelSet labels = LoadPlainLabels(*store_, window[0]);
+        std::vector<double> values;
+        for (const std::string& value : labels.values) values.push_back(std::stod(value));
+
+        std::vector<double> marks;
+        double widest = 0;
+        for (const Row& mark : Select("X1,Y1,X2,Y2,X3 from Dim" + ofDrawing)) {
+            marks.push_back(std::max(Span(mark[0], mark[2]), Span(mark[1], mark[3])));
+            if (mark[1] == mark[3]) widest = std::max(widest, marks.back());
+            EXPECT_GE(std::stod(mark[4]) * kSheetScale, kStub) << "the mark leaves the sheet";
+        }
+        ASSERT_EQ(marks.size(), values.size());
+        ASSERT_GT(widest, 0);
+        const double scale = widest / std::stod(window[2]);
+        std::sort(marks.begin(), marks.end());
+        std::sort(values.begin(), values.end());
+        for (std::size_t i = 0; i < marks.size(); ++i)
+            EXPECT_NEAR(marks[i] / scale, values[i], kDrawnToWithin);
+
+        const std::vector<Row> seen = Select("X1,Y1,X2,Y2 from Rectangle" + ofDrawing);
+        for (const Row& panel : Select("长公式,宽公式 from 窗板材 where 窗号=" + window[1])) {
+            const double width = EvalWithLabels(panel[0], labels) - 2 * kPanelInRebate;
+            const double height = EvalWithLabels(panel[1], labels) - 2 * kPanelInRebate;
+            const bool drawn = std::any_of(seen.begin(), seen.end(), [&](const Row& corners) {
+                return std::abs(Span(corners[0], corners[2]) / scale - width) < kDrawnToWithin &&
+                       std::abs(Span(corners[1], corners[3]) / scale - height) < kDrawnToWithin;
+            });
+            EXPECT_TRUE(drawn) << width << " x " << height;
+        }
+    }
+}
+
 TEST_F(StarterLibraryTest, SampleProjectIsComplete) {
     const std::vector<Row> project = Select("编号 from 工程 where 工程名称='示例工程'");
     ASSERT_EQ(project.size(), 1U);
@@ -217,8 +264,10 @@ TEST_F(StarterLibraryTest, SampleProjectIsComplete) {
     std::set<std::string> specs;
     for (const Row& window : windows) {
         SCOPED_TRACE(window[4]);
-        const auto type = Select("图号 from 门窗 where 编号=" + window[1]);
+        const auto type = Select("图号,名称 from 门窗 where 编号=" + window[1]);
         ASSERT_EQ(type.size(), 1U);
+        const auto namesADoor = [](const std::string& name) { return name.find("门") != std::string::npos; };
+        EXPECT_EQ(namesADoor(window[4]), namesADoor(type[0][1])) << "the settlement prices by the name";
         const std::vector<Row> labels = Select("MC,px,py,schar from 标注 where Mcnum=" + window[0]);
         const std::vector<Row> drawn = Select("Chars,X1,Y1 from Strings where Bn=" + type[0][0]);
         ASSERT_EQ(labels.size(), drawn.size());

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <QFileDialog>
-#include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -80,27 +79,6 @@ TEST_F(DialogsTest, AMessageShowsItsTextPlainly) {
                 EXPECT_EQ(box->windowTitle(), QStringLiteral("KalvaneV7.0"));
             })
         .Run([] { UseDialogs().Message(nullptr, QStringLiteral("a<b"), {}, NoticeIcon::Error); });
-}
-
-TEST_F(DialogsTest, InputGivesTheTextOrNothing) {
-    const auto input = [](bool accept) {
-        std::optional<QString> text;
-        test::ModalScript()
-            .On("",
-                [accept](QDialog& screen) {
-                    auto* dialog = qobject_cast<QInputDialog*>(&screen);
-                    EXPECT_EQ(dialog->textValue(), QStringLiteral("1"));
-                    dialog->setTextValue(QStringLiteral("25"));
-                    dialog->done(accept ? QDialog::Accepted : QDialog::Rejected);
-                })
-            .Run([&] {
-                text = UseDialogs().InputText(nullptr, QStringLiteral("编号"), QStringLiteral("起始编号："),
-                                              QStringLiteral("1"));
-            });
-        return text;
-    };
-    EXPECT_EQ(input(true), QStringLiteral("25"));
-    EXPECT_EQ(input(false), std::nullopt);
 }
 
 TEST_F(DialogsTest, SavingAsksBeforeItOverwritesAndRemembersTheFolder) {

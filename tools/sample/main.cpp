@@ -20,6 +20,7 @@
 #include "store/field_slots.h"
 #include "store/helpers.h"
 #include "ui/application.h"
+#include "ui/dialogs.h"
 #include "ui/message_notice.h"
 #include "ui/report_list.h"
 #include "ui/text.h"
@@ -79,8 +80,36 @@ void WhenShown(const QString& name, const std::function<void(QWidget*)>& action)
     timer->start();
 }
 
+/// Nothing on this road asks or warns; a box that comes up all the same must not wait for an answer.
+class NoDialogs : public Dialogs {
+  public:
+    void Message(QWidget*, const QString& text, const QString&, NoticeIcon) override { Stop(text); }
+    bool AskYesNo(QWidget*, const QString& text, const QString&) override { return Stop(text); }
+    bool AskOkCancel(QWidget*, const QString& text, const QString&) override { return Stop(text); }
+    std::optional<QString> InputText(QWidget*, const QString&, const QString& prompt,
+                                     const QString&) override {
+        Stop(prompt);
+        return std::nullopt;
+    }
+    QString OpenFileName(QWidget*, const QString& purpose, const QString&) override {
+        Stop(purpose);
+        return {};
+    }
+    QString SaveFileName(QWidget*, const QString& purpose, const QString&, const QString&, bool) override {
+        Stop(purpose);
+        return {};
+    }
+
+  private:
+    static bool Stop(const QString& text) {
+        qFatal("a dialog came up: %s", qPrintable(text));
+        return false;
+    }
+};
+
 void LogIn() {
     WhenShown("frmLogin", [](QWidget* screen) {
+        Control<QComboBox>(screen, "cboUsrNm")->setCurrentText("Admin");
         QTest::keyClicks(Control<QLineEdit>(screen, "txtPassword"), "admin888");
         TakePicture(screen, "frmLogin");
         Press(screen, "cmdOK");
@@ -151,7 +180,7 @@ void SavePlan(const std::string& name) {
     const std::string today = FromQt(QDate::currentDate().toString("yyyy-MM-dd"));
     const PlanOutput plan = LoadPlanOutput(App().Main(), kProject, today);
     SavePlanText(plan, out / (name + ".txt"));
-    SavePlanWorkbook(plan, out / (name + ".xlsx"));
+    PlanWorkbook(plan).Save(out / (name + ".xlsx"));
 }
 
 void SaveWindowPictures() {
@@ -176,7 +205,10 @@ void Run() {
     frame.Load();
     frame.resize(1280, 800);
     frame.show();
-    App().optimise = {.CLC = 6000, .LTC = 10, .CKK = 5, .YHBL = 0.98F};
+    App().optimise.CLC = 6000;
+    App().optimise.LTC = 10;
+    App().optimise.CKK = 5;
+    App().optimise.YHBL = 0.98F;
 
     QWidget* windows = OpenSample(frame);
     ShowNewWindow(windows);
@@ -197,6 +229,8 @@ int main(int argc, char* argv[]) {
     }
     QApplication application(argc, argv);
     PrepareApplication(application);
+    NoDialogs dialogs;
+    SetDialogs(&dialogs);
     out = std::filesystem::absolute(argv[1]);
     const QTemporaryDir folder;
     App().folder = FromQt(folder.path());

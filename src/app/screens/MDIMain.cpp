@@ -20,6 +20,7 @@
 #include "app/screens/kalvane_kernel.h"
 #include "app/screens/picture_area.h"
 #include "app/startup.h"
+#include "optimise/screens/PYH02.h"
 #include "platform/assertion.h"
 #include "platform/settings_store.h"
 #include "ui/dialogs.h"
@@ -71,7 +72,7 @@ const std::vector<MDIMain::EntryMenu>& MDIMain::Menus() {
              {QStringLiteral("mnuProject"), QStringLiteral("工程管理"), QStringLiteral("project"),
               Right::Project, [](MDIMain&) { KalvaneKernel().ShowGCGL(); }},
              {QStringLiteral("mnuYouhua"), QStringLiteral("材料优化"), QStringLiteral("optimise"),
-              Right::Optimise, nullptr},
+              Right::Optimise, [](MDIMain& frame) { PYH02().YH02Show(&frame); }},
              {QStringLiteral("mnuFYJH"), QStringLiteral("风压校核"), QStringLiteral("wind"), Right::WindCheck,
               nullptr},
              {QStringLiteral("mnuExit"),

@@ -40,6 +40,7 @@ void EntryScreen::keyPressEvent(QKeyEvent* event) {
         return;
     }
     event->accept();
+    if (event->isAutoRepeat()) return;  // a key held down must not run through the screen
     // A copy: the action may end the screen.
     if (const auto action = enter_.value(focusWidget())) Guarded(this, action);
 }

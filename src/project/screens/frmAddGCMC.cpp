@@ -184,7 +184,8 @@ void frmAddGCMC::StartEditing(const WindowEntry& window) {
     AddNodes(LoadWindowTypes(App().Main()), tvw_->invisibleRootItem());
     tvw_->setEnabled(false);
     tvw_->setToolTip(QStringLiteral("编辑门窗时窗型不能更改"));
-    ShowDrawing(window.typeNumber);
+    // A window whose type or drawing is gone can be edited all the same, without a picture.
+    Guarded(this, [&] { ShowDrawing(window.typeNumber); });
     const std::string* texts[] = {&window.name,   &window.position, &window.width,
                                   &window.height, &window.count,    &window.note};
     for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_[i]->setText(ToQt(*texts[i]));
@@ -194,10 +195,8 @@ void frmAddGCMC::StartEditing(const WindowEntry& window) {
 
 void frmAddGCMC::ChooseNode(QTreeWidgetItem* node) {
     const std::string tag = TagOf(node);
-    if (!IsWindowType(tag)) {
-        ListLabels({});
-        return;
-    }
+    ListLabels({});
+    if (!IsWindowType(tag)) return;
     window_.typeNumber = KeyId(tag);
     boxes_[kName]->setText(node->text(0));
     ListLabels(ShowDrawing(window_.typeNumber));
@@ -213,6 +212,7 @@ void frmAddGCMC::OpenNode(QTreeWidgetItem* node) {
 }
 
 std::vector<LabelRow> frmAddGCMC::ShowDrawing(const std::string& typeNumber) {
+    picture_->SetPersistent({});  // a drawing that cannot be opened leaves no other one behind
     const auto drawing = std::make_shared<MCPicture>(notice_);
     drawing->OpenFileEX(App().Main(), DrawingOfWindowType(App().Main(), typeNumber, SharedFieldSlots()));
     picture_->SetPersistent(
