@@ -104,7 +104,7 @@ TEST(PatternSearchTest, FindsWhatTheWalkThroughAllChoicesFinds) {
         {"one copy closes a branch", 20, 60, 6, 1, 4, 15, 100, false},
         {"long bars", 16384, 32767, 1500, 1, 6, 13, 100, true},
         {"long bars, low stack", 16384, 32767, 800, 3, 5, 14, 4, true},
-        {"longest bars", 32000, 32767, 3000, 2, 9, 13, 100, true},
+        {"long bars, many lengths", 18000, 30000, 1500, 2, 9, 12, 100, true},
     };
     const float ratios[] = {1, 0.95F, 0.9F, 0.5F, 0, -1, 1.5F};
     const unsigned seed = std::random_device{}();
@@ -141,8 +141,8 @@ TEST(PatternSearchTest, FindsWhatTheWalkThroughAllChoicesFinds) {
                                         << ", ratio " << ratio << ", " << testing::PrintToString(values);
             (expected && !expected->error.empty() ? overflows : patterns) += 1;
         }
-        EXPECT_GT(patterns, 10) << family.name;
-        EXPECT_EQ(overflows > 100, family.mayOverflow) << family.name << " " << overflows;
+        EXPECT_GT(patterns, 10) << family.name << ", seed " << seed;
+        EXPECT_EQ(overflows > 10, family.mayOverflow) << family.name << ", seed " << seed;
     }
 }
 
