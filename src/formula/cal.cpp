@@ -90,6 +90,8 @@ bool IsTooLong(std::string_view text) {
 /// Replaces each function name, with all behind it up to the next "(", by the function's code. Empty when
 /// a name has no "(" behind it.
 std::string FoldFunctions(std::string text) {
+    const auto isLetter = [](char c) { return c >= 'A' && c <= 'Z'; };
+    if (std::none_of(text.begin(), text.end(), isLetter)) return text;
     for (const Function& function : kFunctions) {
         for (auto name = text.find(function.name); name != std::string::npos;
              name = text.find(function.name)) {

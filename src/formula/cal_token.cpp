@@ -1,5 +1,6 @@
 #include "formula/cal_token.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 #include <system_error>
@@ -13,6 +14,13 @@ bool IsAtLeastOne(std::string_view number) {
     return digit < number.size() && number[digit] != '.';
 }
 
+/// Digits alone, few enough that a 64-bit float holds them exactly: most numbers of a formula.
+bool IsShortWholeNumber(std::string_view text) {
+    constexpr std::size_t kExactDigits = 15;
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    return text.size() <= kExactDigits && std::all_of(text.begin(), text.end(), isDigit);
+}
+
 }  // namespace
 
 CalToken::CalToken(std::string_view text) : kind_(kNeither), value_(0) {
@@ -22,6 +30,12 @@ CalToken::CalToken(std::string_view text) : kind_(kNeither), value_(0) {
     }
     const char first = text.front();
     if (first != '.' && (first < '0' || first > '9')) return;
+
+    if (IsShortWholeNumber(text)) {
+        kind_ = kNumber;
+        for (const char digit : text) value_ = value_ * 10 + (digit - '0');
+        return;
+    }
 
     double number = 0;
     const char* const end = text.data() + text.size();

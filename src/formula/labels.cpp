@@ -26,6 +26,14 @@ LabelSet ReadLabels(Cursor& rows, std::string_view nameColumn, std::string_view 
     return labels;
 }
 
+/// False when a text in capitals cannot hold the name: it lacks its first letter. Most labels of a window
+/// are not in a formula, so that this spares most searches.
+bool MayOccur(std::string_view capitals, std::string_view name) {
+    if (name.empty() || static_cast<unsigned char>(name[0]) >= 0x80) return true;
+    const char first = name[0] >= 'a' && name[0] <= 'z' ? static_cast<char>(name[0] - 'a' + 'A') : name[0];
+    return capitals.find(first) != std::string_view::npos;
+}
+
 }  // namespace
 
 LabelSet LoadPlainLabels(Connection& connection, std::string_view windowId) {
@@ -69,7 +77,9 @@ float EvalWithLabels(std::string_view formula, const std::vector<std::string>& n
     std::string text = UpperCase(formula);
     for (std::size_t i = 0; i < count; ++i) {
         // A value goes in as it stands, and counts in capitals from the next label on.
-        if (Substitute(text, UpperCase(names[i]), values[i])) text = UpperCase(text);
+        if (MayOccur(text, names[i]) && Substitute(text, UpperCase(names[i]), values[i])) {
+            MakeUpperCase(text);
+        }
     }
     return Cal().CalExpress(text);
 }

@@ -53,6 +53,11 @@ double Convert(std::string_view number) {
 /// General form with `digits` significant digits, as printf's %G writes it.
 template <typename Float>
 std::string GeneralText(Float value, int digits) {
+    // Most lengths and all quantities are whole.
+    constexpr Float kShort = 1000000;
+    if (std::fabs(value) < kShort && value == std::trunc(value)) {
+        return std::to_string(static_cast<int>(value));
+    }
     char buffer[48];
     const auto result =
         std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, digits);

@@ -31,16 +31,22 @@ std::string_view Trim(std::string_view text) {
 
 std::string UpperCase(std::string_view text) {
     std::string result(text);
-    for (std::size_t i = 0; i < result.size(); ++i) {
-        if (IsFullWidthSmall(result, i)) {
-            result[i + 1] = static_cast<char>(0xBC);
-            result[i + 2] = static_cast<char>(static_cast<unsigned char>(result[i + 2]) + 0x20);
-            i += 2;
-        } else {
-            result[i] = Upper(result[i]);
-        }
-    }
+    MakeUpperCase(result);
     return result;
+}
+
+void MakeUpperCase(std::string& text) {
+    bool isAscii = true;
+    for (char& c : text) {
+        isAscii = isAscii && static_cast<unsigned char>(c) < 0x80;
+        c = Upper(c);
+    }
+    for (std::size_t i = 0; !isAscii && i < text.size(); ++i) {
+        if (!IsFullWidthSmall(text, i)) continue;
+        text[i + 1] = static_cast<char>(0xBC);
+        text[i + 2] = static_cast<char>(static_cast<unsigned char>(text[i + 2]) + 0x20);
+        i += 2;
+    }
 }
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {

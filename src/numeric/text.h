@@ -11,6 +11,7 @@ std::string_view Trim(std::string_view text);
 
 /// UTF-8 text in capitals: ASCII letters and their full-width forms; all else stays.
 std::string UpperCase(std::string_view text);
+void MakeUpperCase(std::string& text);
 
 /// True when both are the same but for ASCII letter case.
 bool EqualIgnoringCase(std::string_view a, std::string_view b);

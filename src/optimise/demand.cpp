@@ -7,6 +7,7 @@
 #include "formula/labels.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
+#include "platform/error.h"
 #include "store/command_scope.h"
 
 namespace kalvane {
@@ -21,6 +22,12 @@ struct FormulaColumns {
           length(row.FieldIndex("计算公式")) {}
     int name, material, quantity, length;
 };
+
+/// The text of a text column, without a copy; Null throws.
+const std::string& TextOf(const FieldValue& field) {
+    if (field.IsNull()) throw NumericError::NullUse();
+    return field.TextView();
+}
 
 /// One gathering. The formula rows of a window type are read once, since a project has many windows of few
 /// types.
@@ -65,7 +72,7 @@ class Gathering {
         const FormulaColumns columns(row);
         for (; !row.Eof(); row.MoveNext()) {
             const double quantity =
-                static_cast<double>(EvalWithLabels(row.Field(columns.quantity).Text(), labels));
+                static_cast<double>(EvalWithLabels(TextOf(row.Field(columns.quantity)), labels));
             statement_ =
                 "Insert into 优化数据 (编号,名称,规格,长度,数量) Values(" + row.Field(1).Text() + ",'";
             AddRow(row, columns, labels, ShortText(NarrowToFloat(quantity * windows)));
@@ -77,7 +84,7 @@ class Gathering {
         const FormulaColumns columns(row);
         for (; !row.Eof(); row.MoveNext()) {
             const double quantity =
-                std::floor(static_cast<double>(EvalWithLabels(row.Field(columns.quantity).Text(), labels)));
+                std::floor(static_cast<double>(EvalWithLabels(TextOf(row.Field(columns.quantity)), labels)));
             statement_ = "Insert into 优化数据 (名称,规格,长度,数量) values('";
             AddRow(row, columns, labels, ShortText(quantity * multiplier));
         }
@@ -86,11 +93,11 @@ class Gathering {
     /// Ends the statement begun with the row's texts, length and quantity, and runs it.
     void AddRow(const Cursor& row, const FormulaColumns& columns, const LabelSet& labels,
                 const std::string& quantity) {
-        statement_ += row.Field(columns.name).Text();
+        statement_ += TextOf(row.Field(columns.name));
         statement_ += "','";
-        statement_ += row.Field(columns.material).Text();
+        statement_ += TextOf(row.Field(columns.material));
         statement_ += "',";
-        statement_ += ShortText(EvalWithLabels(row.Field(columns.length).Text(), labels));
+        statement_ += ShortText(EvalWithLabels(TextOf(row.Field(columns.length)), labels));
         statement_ += ',';
         statement_ += quantity;
         statement_ += ')';

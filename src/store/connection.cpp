@@ -20,14 +20,16 @@ constexpr std::size_t kMostStatements = 256;
 /// How long another process that holds the file is waited for.
 constexpr int kBusyMilliseconds = 3000;
 
-void Bind(sqlite3_stmt* statement, int position, const EngineValue& value) {
+/// Binds a value. A text outside `scratch` is part of the statement's text and outlives the step; one in it
+/// is copied, since the next literal may need the place.
+void Bind(sqlite3_stmt* statement, int position, const EngineValue& value, const std::string& scratch) {
     if (const auto* whole = std::get_if<std::int64_t>(&value)) {
         sqlite3_bind_int64(statement, position, *whole);
     } else if (const auto* real = std::get_if<double>(&value)) {
         sqlite3_bind_double(statement, position, *real);
     } else if (const auto* text = std::get_if<std::string_view>(&value)) {
         sqlite3_bind_text(statement, position, text->data(), static_cast<int>(text->size()),
-                          SQLITE_TRANSIENT);
+                          text->data() == scratch.data() ? SQLITE_TRANSIENT : SQLITE_STATIC);
     } else {
         sqlite3_bind_null(statement, position);
     }
@@ -73,7 +75,8 @@ EngineValue ArgumentValue(sqlite3_value* argument) {
 Connection::Implementation::Implementation(const std::filesystem::path& path, StoreKind kind) : file(path) {
     const std::string name = path.filename().string();
     if (!std::filesystem::is_regular_file(path)) throw StoreError("没有数据库文件“" + name + "”。");
-    const int opened = sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READWRITE, nullptr);
+    const int opened =
+        sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     try {
         if (opened != SQLITE_OK) throw StoreError(name + "：" + EngineErrorText(database));
         sqlite3_busy_timeout(database, kBusyMilliseconds);
@@ -162,7 +165,7 @@ void Connection::Implementation::BindLiterals(PreparedStatement& statement) {
         EngineValue value = LiteralValue(scanned_.literals[i], scratch);
         const WrittenValue& target = statement.translation.parameters[i];
         if (target.column != nullptr) value = ConvertForColumn(target, value, scratch);
-        Bind(statement.handle, static_cast<int>(i) + 1, value);
+        Bind(statement.handle, static_cast<int>(i) + 1, value, scratch);
     }
 }
 

@@ -11,7 +11,8 @@
 namespace kalvane {
 
 /// An open store file. Statements are written in the store's own dialect (see dialect.h), one per call; a
-/// refused one throws StoreError with a text for the operator and changes nothing.
+/// refused one throws StoreError with a text for the operator and changes nothing. A connection is used by
+/// one thread at a time.
 class Connection {
   public:
     /// Opens an existing store. Throws StoreError when the file is missing, is no store of ours or was

@@ -6,8 +6,8 @@
 namespace kalvane {
 namespace {
 
-constexpr bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
+bool IsDigit(char c) {
+    return ClassOf(c) == ByteClass::Digit;
 }
 
 /// Length of the number at the start of `text`: digits, a point, an exponent.
@@ -25,99 +25,98 @@ std::size_t NumberLength(std::string_view text) {
     return i;
 }
 
-/// Whether a minus behind this shape is a sign and not a subtraction.
-bool EndsWhereOperandStarts(std::string_view shape) {
-    shape = Trim(shape);
-    return !shape.empty() && std::string_view("(,=<>*/+").find(shape.back()) != std::string_view::npos;
-}
-
 class Scanner {
   public:
     Scanner(std::string_view sql, ScannedStatement& result) : sql_(sql), result_(result) {}
 
     void Run() {
         while (at_ < sql_.size()) {
-            const char c = sql_[at_];
-            if (IsDigit(c) || (c == '.' && at_ + 1 < sql_.size() && IsDigit(sql_[at_ + 1]))) {
-                TakeNumber(false);
-            } else if (IsNameByte(c)) {
-                TakeName();
-            } else if (c == '\'') {
-                TakeText();
-            } else if (c == '-' && StartsNegativeNumber()) {
-                ++at_;
-                TakeNumber(true);
-            } else {
-                TakeSymbol(c);
+            switch (ClassOf(sql_[at_])) {
+                case ByteClass::Name:
+                    while (at_ < sql_.size() && IsNameByte(sql_[at_])) ++at_;
+                    break;
+                case ByteClass::Digit:
+                    TakeNumber(at_);
+                    break;
+                case ByteClass::Symbol:
+                    if (sql_[at_] == '-' && StartsNumber(at_ + 1) && StartsOperand()) {
+                        TakeNumber(at_ + 1);
+                    } else {
+                        ++at_;
+                    }
+                    break;
+                case ByteClass::Other:
+                    TakeOther();
+                    break;
             }
         }
+        KeepUpTo(at_);
     }
 
   private:
-    void TakeName() {
-        const std::size_t start = at_;
-        while (at_ < sql_.size() && IsNameByte(sql_[at_])) ++at_;
-        result_.shape.append(sql_, start, at_ - start);
+    bool StartsNumber(std::size_t i) const {
+        if (i < sql_.size() && sql_[i] == '.') ++i;
+        return i < sql_.size() && IsDigit(sql_[i]);
     }
 
-    void TakeNumber(bool isNegative) {
-        const std::size_t length = NumberLength(sql_.substr(at_));
+    /// Whether a minus here is a sign and not a subtraction.
+    bool StartsOperand() const {
+        const std::string_view before = Trim(sql_.substr(0, at_));
+        return !before.empty() && std::string_view("(,=<>*/+").find(before.back()) != std::string_view::npos;
+    }
+
+    void TakeOther() {
+        if (sql_[at_] == '\'') {
+            TakeText();
+        } else if (StartsNumber(at_)) {
+            TakeNumber(at_);
+        } else {
+            throw StoreError(std::string("语句里有不能识别的字符“") + sql_[at_] + "”。");
+        }
+    }
+
+    /// The number whose digits begin at `digits`; a minus at the current place belongs to it.
+    void TakeNumber(std::size_t digits) {
         Literal literal;
-        literal.isNegative = isNegative;
-        literal.source = sql_.substr(at_, length);
-        AddLiteral(literal);
-        at_ += length;
+        literal.isNegative = digits > at_;
+        literal.source = sql_.substr(digits, NumberLength(sql_.substr(digits)));
+        AddLiteral(literal, digits + literal.source.size());
     }
 
     void TakeText() {
-        const std::size_t start = ++at_;
         Literal literal;
         literal.isText = true;
-        for (;; ++at_) {
-            if (at_ >= sql_.size()) {
+        std::size_t end = at_ + 1;
+        for (;; ++end) {
+            end = sql_.find('\'', end);
+            if (end == std::string_view::npos) {
                 throw StoreError("语句里的引号不成对，文字中不能含有单引号（'）。");
             }
-            if (sql_[at_] != '\'') continue;
-            if (at_ + 1 >= sql_.size() || sql_[at_ + 1] != '\'') break;
+            if (end + 1 >= sql_.size() || sql_[end + 1] != '\'') break;
             literal.hasDoubledQuotes = true;
-            ++at_;
+            ++end;
         }
-        literal.source = sql_.substr(start, at_ - start);
-        AddLiteral(literal);
-        ++at_;
+        literal.source = sql_.substr(at_ + 1, end - at_ - 1);
+        AddLiteral(literal, end + 1);
     }
 
-    void TakeSymbol(char c) {
-        if (std::string_view(" \t\r\n(),*+-/=<>").find(c) == std::string_view::npos) {
-            throw StoreError(std::string("语句里有不能识别的字符“") + c + "”。");
-        }
-        result_.shape += c;
-        ++at_;
-    }
-
-    bool StartsNegativeNumber() const {
-        const std::string_view rest = sql_.substr(at_ + 1);
-        const bool number =
-            !rest.empty() && (IsDigit(rest[0]) || (rest.size() > 1 && rest[0] == '.' && IsDigit(rest[1])));
-        return number && EndsWhereOperandStarts(result_.shape);
-    }
-
-    void AddLiteral(const Literal& literal) {
+    /// Takes the literal from the current place up to `end` out of the text.
+    void AddLiteral(const Literal& literal, std::size_t end) {
+        KeepUpTo(at_);
         result_.shape += '?';
         result_.literals.push_back(literal);
+        at_ = kept_ = end;
     }
+
+    void KeepUpTo(std::size_t end) { result_.shape.append(sql_, kept_, end - kept_); }
 
     std::string_view sql_;
     ScannedStatement& result_;
     std::size_t at_ = 0;
+    std::size_t kept_ = 0;  // what stands before is in the shape
 };
 
 }  // namespace
-
-bool IsNameByte(char c) {
-    return IsDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
-           static_cast<unsigned char>(c) >= 0x80;
-}
 
 void ScanStatement(std::string_view sql, ScannedStatement& result) {
     result.shape.clear();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,7 +28,28 @@ struct ScannedStatement {
 /// without a partner or a character that no statement holds.
 void ScanStatement(std::string_view sql, ScannedStatement& result);
 
-/// True for a byte that can stand in a name: a letter, a digit, "_", or a part of a character beyond ASCII.
-bool IsNameByte(char c);
+/// What a byte of a statement can be.
+enum class ByteClass : std::uint8_t { Other, Name, Digit, Symbol };
+
+/// A name is made of letters, digits, "_" and characters beyond ASCII, of which each byte counts here.
+inline ByteClass ClassOf(char c) {
+    static constexpr auto kClasses = [] {
+        std::array<ByteClass, 256> table{};
+        for (std::size_t byte = 0x80; byte < table.size(); ++byte) table[byte] = ByteClass::Name;
+        for (unsigned char byte = 'a'; byte <= 'z'; ++byte) table[byte] = ByteClass::Name;
+        for (unsigned char byte = 'A'; byte <= 'Z'; ++byte) table[byte] = ByteClass::Name;
+        table['_'] = ByteClass::Name;
+        for (unsigned char byte = '0'; byte <= '9'; ++byte) table[byte] = ByteClass::Digit;
+        for (const char symbol : {' ', '\t', '\r', '\n', '(', ')', ',', '*', '+', '-', '/', '=', '<', '>'}) {
+            table[static_cast<unsigned char>(symbol)] = ByteClass::Symbol;
+        }
+        return table;
+    }();
+    return kClasses[static_cast<unsigned char>(c)];
+}
+
+inline bool IsNameByte(char c) {
+    return ClassOf(c) == ByteClass::Name || ClassOf(c) == ByteClass::Digit;
+}
 
 }  // namespace kalvane
