@@ -3,9 +3,9 @@
 PACKAGES=(
     g++ cmake ninja-build ccache mold pkg-config
     qt6-base-dev libqt6svg6-dev libgl-dev
-    libsqlite3-dev libxlsxwriter-dev libcli11-dev
+    libsqlite3-dev libxlsxwriter-dev zlib1g-dev libcli11-dev
     libgtest-dev
-    fonts-noto-cjk poppler-utils unzip
+    fonts-noto-cjk
 )
 
 install_packages() {

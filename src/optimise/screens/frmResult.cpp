@@ -3,7 +3,6 @@
 #include <QDate>
 #include <QDesktopServices>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QSplitter>
 #include <QUrl>
@@ -65,12 +64,7 @@ frmResult::frmResult(QWidget* parent)
     frames->addWidget(Framed(QStringLiteral("材料统计表"), lvw2_));
     frames->setStretchFactor(0, 2);
     frames->setStretchFactor(1, 1);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (QPushButton* button : {printCuts, printTotals, save, exit}) buttons->addWidget(button);
-    auto* rows = new QVBoxLayout(this);
-    rows->addWidget(frames, 1);
-    rows->addLayout(buttons);
+    LayOutAboveButtons(this, frames, {printCuts, printTotals, save, exit});
     resize(kFirstSize);
 
     OnSignal(save, &QPushButton::clicked, this, [this] { PutOut(); });
