@@ -143,11 +143,12 @@ void ShowNewWindow(QWidget* windows) {
         }
         tree->scrollToItem(type);
         QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(type).center());
-        const char* const values[] = {"1800", "1500", "600", "450"};
-        for (const char* value : values) {
+        const char* const values[] = {"1800", "1500", "750", "1050", "450", "1050", "1000", "500"};
+        const int labels = Control<ReportList>(screen, "LvwBZ")->RowCount();
+        for (int label = 0; label < labels; ++label) {
             auto* box = Control<QLineEdit>(screen, "TxtBZ");
             box->selectAll();
-            QTest::keyClicks(box, value);
+            QTest::keyClicks(box, values[static_cast<std::size_t>(label) % std::size(values)]);
             QTest::keyClick(box, Qt::Key_Return);
         }
         TakePicture(screen, "frmAddGCMC");
