@@ -1,7 +1,5 @@
 #include "app/rights.h"
 
-#include <gtest/gtest.h>
-
 namespace kalvane {
 namespace {
 
@@ -15,11 +13,7 @@ std::string Granted(std::string_view userAuth) {
 }
 
 TEST(Rights, GrantByPosition) {
-    struct Case {
-        const char* userAuth;
-        const char* granted;
-    };
-    const Case cases[] = {
+    const char* const cases[][2] = {
         {"000111001011", "工程管理 材料优化 风压校核 更改背景 更改密码 仓库管理 "},
         {"111111111111",
          "材料库 绘制图 窗型设计 工程管理 材料优化 风压校核 备份/恢复 设置 更改背景 用户管理 更改密码 "
@@ -32,7 +26,7 @@ TEST(Rights, GrantByPosition) {
         {"中10000000000", "绘制图 "},          // positions are characters, not bytes
         {"中111111111", ""},                   // twelve bytes, ten characters
     };
-    for (const Case& c : cases) EXPECT_EQ(Granted(c.userAuth), c.granted) << c.userAuth;
+    for (const auto& [userAuth, granted] : cases) EXPECT_EQ(Granted(userAuth), granted) << userAuth;
 }
 
 }  // namespace

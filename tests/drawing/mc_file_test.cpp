@@ -1,7 +1,5 @@
 #include "drawing/mc_file.h"
 
-#include <gtest/gtest.h>
-
 #include "drawing/recorders.h"
 #include "platform/error.h"
 #include "platform/files.h"
@@ -10,7 +8,7 @@
 namespace kalvane {
 namespace {
 
-class McFileTest : public ::testing::Test {
+class McFileTest : public testing::Test {
   protected:
     test::TempFolder folder_;
     std::filesystem::path file_ = folder_ / "窗.MC";
@@ -49,15 +47,6 @@ TEST_F(McFileTest, AFailureOfTheFileChangesNothing) {
     EXPECT_EQ(ReadFile(file_), "old");
     EXPECT_THROW(picture_.Open_File(folder_ / "none.MC"), FileError);
     EXPECT_EQ(Describe(picture_), "String 1,1 B😀");
-}
-
-TEST_F(McFileTest, ReadsUtf8AndGbkAlike) {
-    for (const char* bytes :
-         {"String\n1\n2\n框厚\n", "\xEF\xBB\xBFString\n1\n2\n框厚\n", "String\n1\n2\n\xBF\xF2\xBA\xF1\n"}) {
-        WriteFileAtomically(file_, bytes);
-        picture_.Open_File(file_);
-        EXPECT_EQ(Describe(picture_), "String 1,2 框厚");
-    }
 }
 
 TEST_F(McFileTest, ReaderRules) {

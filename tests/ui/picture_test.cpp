@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
@@ -27,7 +25,7 @@ int Ink(const QImage& image, QRect part, bool redOnly = false) {
     return count;
 }
 
-TEST(WindowPicture, ImageShowsStrokesAndValuesInTheFramesShape) {
+TEST(WindowPicture, ImageAndPdfShowStrokesAndValuesInTheFramesShape) {
     RecordingNotice notice;
     CPictire drawing(notice);
     drawing.AddLine({{0, 0}, {9495, 0}});
@@ -35,9 +33,8 @@ TEST(WindowPicture, ImageShowsStrokesAndValuesInTheFramesShape) {
     drawing.AddString({{200, 2000}, "名称"});  // label names are not painted
     MCPicture picture(notice);
     const test::TempFolder folder;
-    const std::filesystem::path file = folder / "a.MC";
-    drawing.SavePicture(file);
-    picture.OpenFileMC(file);
+    drawing.SavePicture(folder / "a.MC");
+    picture.OpenFileMC(folder / "a.MC");
 
     // 1000 wide leaves 940 for the frame less its margins, but 529 high only 94 %: scale 0.94 / 15, so the
     // frame is 595 by 497 and starts at (202, 15); its middle is at x = 202 + 297.
@@ -52,19 +49,12 @@ TEST(WindowPicture, ImageShowsStrokesAndValuesInTheFramesShape) {
     EXPECT_GT(Ink(image, {264, 265, 40, 18}), 20);
     EXPECT_EQ(Ink(image, {203, 17, 290, 248}), 0);
     EXPECT_EQ(Ink(image, {203, 285, 290, 200}), 0);
-}
 
-TEST(WindowPicture, PdfIsOnePageWithItsFontsEmbedded) {
-    RecordingNotice notice;
-    const MCPicture picture(notice);
-    const test::TempFolder folder;
-    const std::filesystem::path file = folder / "窗.pdf";
-    const WindowLabel labels[] = {{1000, 4000, "1500"}};
-    WriteWindowPicturePdf(file, "推拉窗", picture, labels);
-    const std::string bytes = ReadFile(file);
+    WriteWindowPicturePdf(folder / "窗.pdf", "推拉窗", picture, labels);
+    const std::string bytes = ReadFile(folder / "窗.pdf");
     EXPECT_EQ(bytes.substr(0, 5), "%PDF-");
-    EXPECT_NE(bytes.find("/Count 1\n"), std::string::npos);
-    EXPECT_NE(bytes.find("/FontFile"), std::string::npos);
+    EXPECT_NE(bytes.find("/Count 1\n"), std::string::npos) << "one page";
+    EXPECT_NE(bytes.find("/FontFile"), std::string::npos) << "its fonts embedded";
 }
 
 TEST(PainterTarget, TextHasTheSameSizeOnEveryDevice) {
