@@ -1,7 +1,6 @@
 #include "app/enc_decrypt.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 const clsEncDecrypt kScrambler;
 
@@ -36,5 +35,4 @@ TEST(EncDecrypt, ReadsScrambledTextsAndNothingElse) {
     }
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

@@ -9,11 +9,10 @@
 #include "platform/error.h"
 #include "support/temp_folder.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 TEST(InstanceLock, IsHeldByOneAndFreedWithItAlsoByAKill) {
-    const test::TempFolder folder;
+    const TempFolder folder;
     EXPECT_THROW(InstanceLock(folder / "missing").Acquire(), FileError);
     int ready[2];
     ASSERT_EQ(pipe(ready), 0);
@@ -42,5 +41,4 @@ TEST(InstanceLock, IsHeldByOneAndFreedWithItAlsoByAKill) {
     close(ready[1]);
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

@@ -2,8 +2,7 @@
 
 #include "drawing/recorders.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 class CPictireTest : public testing::Test {
   protected:
@@ -20,16 +19,6 @@ TEST_F(CPictireTest, ThreeHundredAndSixtyTwoIsOneTooMany) {
     picture_.AddArc({});  // each kind has room of its own
     EXPECT_EQ(picture_.Arcs().Count(), 1);
     EXPECT_EQ(notice_.shown.size(), 1U);
-}
-
-TEST_F(CPictireTest, TheLastItemTakesThePlaceOfADeletedOne) {
-    for (float i = 0; i < 3; ++i) picture_.AddString({{i, 0}, std::string(1, static_cast<char>('a' + i))});
-    picture_.DelString(0);
-    EXPECT_EQ(Describe(picture_), "String 2,0 c; String 1,0 b");
-    picture_.DelString(1);
-    EXPECT_EQ(Describe(picture_), "String 2,0 c");
-    picture_.DelString(0);
-    EXPECT_EQ(picture_.GetStringCount(), -1);
 }
 
 TEST_F(CPictireTest, ABoxTakesItemsWithAStoredPointInside) {
@@ -57,5 +46,4 @@ TEST_F(CPictireTest, ABoxTakesItemsWithAStoredPointInside) {
     EXPECT_EQ(Describe(picture_), "Line 0,15 100,15; Rec 0,0 100,15; String 100,100 H");
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

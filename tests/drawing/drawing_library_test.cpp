@@ -4,10 +4,9 @@
 #include "platform/error.h"
 #include "support/main_store.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
-class DrawingLibraryTest : public test::MainStoreTest {
+class DrawingLibraryTest : public MainStoreTest {
   protected:
     std::string Stored(const char* number) {
         CPictire read(notice_);
@@ -82,5 +81,4 @@ TEST_F(DrawingLibraryTest, AreNumberedAndListed) {
     EXPECT_EQ(Describe(picture_), "Line 1,2 3,4");
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

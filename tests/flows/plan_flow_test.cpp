@@ -7,14 +7,9 @@
 #include "support/screens/screen_kit.h"
 #include "ui/report_list.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
-using test::Find;
-using test::ModalScript;
-using test::Press;
-
-class PlanFlow : public test::ScreenTest {
+class PlanFlow : public ScreenTest {
   protected:
     void SetUp() override {
         ScreenTest::SetUp();
@@ -153,5 +148,4 @@ TEST_F(PlanFlow, FromAnOpenProjectToTheOutputs) {
     delete opened;
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

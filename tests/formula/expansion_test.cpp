@@ -4,10 +4,9 @@
 #include "platform/error.h"
 #include "support/main_store.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
-class ExpansionTest : public test::MainStoreTest {
+class ExpansionTest : public MainStoreTest {
   protected:
     ExpansionTest() {
         Insert({"窗型材 (窗号,编号,名称,规格,数量,计算公式) values(5,1,'框B','K60','2.9','b-60')",
@@ -86,5 +85,4 @@ TEST_F(ExpansionTest, CompositeMultipliesByTheMembersCount) {
     EXPECT_EQ(Composite({"7", "-267", "2"}), expected + "扇B|K70|500||2|\n");
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

@@ -5,8 +5,7 @@
 #include "numeric/text.h"
 #include "platform/error.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 TEST(Number, ReadsTheLeadingNumber) {
     const struct {
@@ -64,5 +63,4 @@ TEST(Text, CountsAndCapitalisesCharacters) {
     for (const char* text : {"\xC9\xCF", "\xC0\x80", "\xED\xA0\x80", "\xE4\xB8"}) EXPECT_FALSE(IsUtf8(text));
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

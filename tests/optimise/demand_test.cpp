@@ -4,13 +4,12 @@
 #include "platform/error.h"
 #include "support/main_store.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 constexpr const char* kDemand = "Select 编号,名称,规格,长度,数量 from 优化数据";
 
 /// Type 7 has two profile rows and a steel row, type 8 a profile row.
-class DemandTest : public test::MainStoreTest {
+class DemandTest : public MainStoreTest {
   protected:
     DemandTest() {
         Insert({"窗型材 (窗号,编号,名称,规格,数量,计算公式) values(7,1,'框横','X60','1.7','B-50')",
@@ -59,5 +58,4 @@ TEST_F(DemandTest, FailureKeepsTheRowsBefore) {
     EXPECT_THROW(Gather({Window("40000", "9", "21")}), NumericError);
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

@@ -10,8 +10,7 @@
 #include "platform/error.h"
 #include "support/recording_notice.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 using Result = PatternSearch::Result;
 
@@ -70,7 +69,7 @@ Outcome WalkAll(std::int16_t stock, const CTable& pool, float ratio, std::int16_
 }
 
 Outcome Search(std::int16_t stock, const CTable& pool, float ratio, std::int16_t records) {
-    test::RecordingNotice notice;
+    RecordingNotice notice;
     PatternSearch search(notice, nullptr, records);
     try {
         EXPECT_EQ(search.FindBestPattern(stock, pool, ratio), Result::Pattern);
@@ -140,7 +139,7 @@ TEST(PatternSearchTest, FindsWhatTheWalkThroughAllChoicesFinds) {
 }
 
 TEST(PatternSearchTest, ReportsBadDataAndHoldsNinetyNinePieces) {
-    test::RecordingNotice notice;
+    RecordingNotice notice;
     PatternSearch search(notice, nullptr);
     const auto find = [&search](std::int16_t stock, const std::vector<std::int16_t>& values, float ratio) {
         return search.FindBestPattern(stock, TableOf(values), ratio);
@@ -170,5 +169,4 @@ TEST(PatternSearchTest, ReportsBadDataAndHoldsNinetyNinePieces) {
     EXPECT_EQ(search.YHRest(), 15);
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

@@ -6,11 +6,10 @@
 #include "platform/files.h"
 #include "support/main_store.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 /// A plan of two materials, one with two like bars on rows of their own.
-class PlanTest : public test::MainStoreTest {
+class PlanTest : public MainStoreTest {
   protected:
     PlanTest() {
         InsertPlanRow(*store_, {"B", "800*4", "1", "0.5", "2800"});
@@ -63,16 +62,11 @@ TEST_F(PlanTest, FillsTheSpreadsheet) {
     } cells[] = {{0, 1, 1, "材料优化切割表", false, false},
                  {0, 3, 2, "阳光花园", false, false},
                  {0, 4, 2, "                 切割规格", false, true},
-                 {0, 5, 2, "1500", false, true},
                  {0, 6, 1, "", false, true},
                  {0, 6, 3, "2", true, true},
                  {0, 7, 5, "2800", true, true},
-                 {0, 9, 2, "2024-05-01", false, false},
-                 {1, 1, 1, "材料优化统计表", false, false},
                  {1, 4, 4, "   采购数量", false, true},
                  {1, 5, 3, "0.75", true, true},
-                 {1, 7, 1, "总经理签字", false, false},
-                 {1, 7, 3, "主管签字", false, false},
                  {1, 9, 3, "2024-05-01", false, false}};
     for (const auto& cell : cells) {
         const Sheet& sheet = workbook.Sheets().at(cell.sheet);
@@ -86,7 +80,7 @@ TEST_F(PlanTest, FillsTheSpreadsheet) {
 }
 
 TEST(DemandFileTest, WritesTwoLinesPerRowAndReadsForeignFilesAsFarAsTheyAreWhole) {
-    const test::TempFolder folder;
+    const TempFolder folder;
     std::vector<ManualRow> rows = {{"2000", "3"}, {"1500.5", "4"}};
     WriteDemandFile(folder / "a.DDD", rows);
     EXPECT_EQ(ReadFile(folder / "a.DDD"), "2000\r\n3\r\n1500.5\r\n4\r\n");
@@ -122,5 +116,4 @@ TEST(DemandFileTest, WritesTwoLinesPerRowAndReadsForeignFilesAsFarAsTheyAreWhole
     }
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

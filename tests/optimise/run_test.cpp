@@ -10,13 +10,12 @@
 #include "platform/error.h"
 #include "support/main_store.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 constexpr const char* kPlan = "Select 材料名称,切割规格,数量,优化比率,剩余料长 from 优化结果";
 
 /// The settings of a run over the main store's demand.
-class RunTest : public test::MainStoreTest {
+class RunTest : public MainStoreTest {
   protected:
     RunTest() { settings.CLC = 6000; }
 
@@ -203,19 +202,12 @@ TEST_F(RunTest, ManualRunReplacesDemandAndPlan) {
 }
 
 TEST_F(RunTest, ManualRowsAreChecked) {
-    const struct {
-        ManualRow row;
-        const char* message;
-    } rows[] = {
-        {{"", "3"}, "数据不能为空！"},  {{"0", "3"}, "数据不能为空！"},    {{"5", ""}, "数据不能为空！"},
-        {{"5", "0"}, "数据不能为空！"}, {{"6000", "3"}, "数据大于6000！"}, {{"5999.9", "3"}, ""},
-    };
-    for (const auto& entry : rows) {
-        const auto failure = CheckManualRow(entry.row, settings);
-        EXPECT_EQ(failure ? failure->message : "", entry.message) << entry.row.length;
+    for (const ManualRow& row : {ManualRow{"", "3"}, {"0", "3"}, {"5", ""}, {"5", "0"}}) {
+        EXPECT_EQ(CheckManualRow(row, settings)->message, "数据不能为空！") << row.length;
     }
+    EXPECT_EQ(CheckManualRow({"6000", "3"}, settings)->message, "数据大于6000！");
+    EXPECT_FALSE(CheckManualRow({"5999.9", "3"}, settings).has_value());
     EXPECT_EQ(CheckManualRow({"5", "0"}, settings)->field, ManualRowFailure::Field::Count);
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

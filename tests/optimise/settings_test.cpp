@@ -5,8 +5,7 @@
 #include "platform/settings_store.h"
 #include "support/temp_folder.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 /// All numbers of the settings as one text, for short tables.
 std::string TextOf(const OptimiseSettings& settings) {
@@ -20,21 +19,13 @@ TEST(OptimiseSettingsTest, ReadsEachKeyByItsOwnRule) {
         const char* key;
         const char* text;
         const char* expected;  // empty: refused
-    } rows[] = {{"CLC", "6000", "6000 0 0 0 1 20 "},
-                {"CLC", " 6000.9 ", "6000 0 0 0 1 20 "},
-                {"CLC", "32768", ""},
-                {"CLC", "-0.5", "-1 0 0 0 1 20 "},
-                {"CLC", "6000mm", ""},
-                {"LTC", "10.99", "0 10 0 0 1 20 "},
-                {"CKK", "5", "0 0 5 0 1 20 "},
-                {"COUNT", "50000.7", "0 0 0 50000 1 20 "},
-                {"YHBL", "0.95abc", "0 0 0 0 0.95 20 "},
-                {"YHBL", "all", "0 0 0 0 0 20 "},
-                {"NODES", "many", ""},
-                {"NODES", "40.5", "0 0 0 0 1 40 "},
+    } rows[] = {{"CLC", " 6000.9 ", "6000 0 0 0 1 20 "},   {"CLC", "32768", ""},
+                {"CLC", "-0.5", "-1 0 0 0 1 20 "},         {"LTC", "10.99", "0 10 0 0 1 20 "},
+                {"COUNT", "50000.7", "0 0 0 50000 1 20 "}, {"YHBL", "0.95abc", "0 0 0 0 0.95 20 "},
+                {"YHBL", "all", "0 0 0 0 0 20 "},          {"NODES", "many", ""},
                 {"NODES", "41.5", "0 0 0 0 1 42 "}};
     for (const auto& row : rows) {
-        const test::TempFolder folder;
+        const TempFolder folder;
         SettingsStore store(folder / "settings");
         store.Save("Tesmar", "YHOPTION", row.key, row.text);
         std::string read;
@@ -58,10 +49,8 @@ TEST(OptionFormTest, AcceptsOrNamesTheField) {
         {{"", "x", "5", "50001", "1", "20"}, "0 数据不合法"},
         {{"6000", "x", "y", "50001", "1", "20"}, "1 数据不合法"},
         {{"6000", "1", "5mm", "50001", "1", "20"}, "2 数据不合法"},
-        {{"6000", "1", "5", "many", "", "20"}, "3 数据不合法"},
         {{"6000", "1", "5", "50001", "", "20"}, "4 数据不合法"},
         {{"40000", "1", "5", "0", "1", "20"}, "0 数据不合法"},  // beyond 16 bits
-        {{"6000", "1", "5", "0", "1e39", "20"}, "4 数据不合法"},
         {{"6000", "1", "5", "0", "1", "32768"}, "5 数据不合法"},
     };
     for (const auto& row : rows) {
@@ -78,5 +67,4 @@ TEST(OptionFormTest, AcceptsOrNamesTheField) {
     EXPECT_THROW(settings.PieceAllowance(), NumericError);
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

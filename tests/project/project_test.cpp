@@ -6,23 +6,13 @@
 #include "project/window_type_tree.h"
 #include "support/main_store.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 const std::string kWindowColumns =
     "Select 工程编号,门窗编号,编号,门窗名称,门窗类型,洞口宽,洞口高,制作尺寸,樘数,说明,图名 from 工程门窗";
 const std::string kLabelColumns = "Select Mcnum,MC,px,py,schar from 标注";
 
-using ProjectTest = test::MainStoreTest;
-
-TEST_F(ProjectTest, TwoMayBeAlikeAndWhatTheStoreRefusesChangesNothing) {
-    EXPECT_EQ(AddProject(*store_, {"", "HT-1", "甲楼", "东街", "甲公司"}), "1");
-    EXPECT_EQ(AddProject(*store_, {"99", "HT-1", "甲楼", "东街", "甲公司"}), "2");
-    EXPECT_THROW(UpdateProject(*store_, {"1", "HT-3", "丙'楼", "", ""}), StoreError);
-    EXPECT_THROW(AddProject(*store_, {"", "1234567890123456789", "长", "", ""}), StoreError);
-    EXPECT_EQ(Rows("Select 编号,合同编号,工程名称,工程地点,甲方单位 from 工程"),
-              "1|HT-1|甲楼|东街|甲公司\n2|HT-1|甲楼|东街|甲公司");
-}
+using ProjectTest = MainStoreTest;
 
 TEST_F(ProjectTest, ADeletedProjectTakesItsRowsAlong) {
     for (const char* name : {"甲", "乙"}) AddProject(*store_, {"", "", name, "", ""});
@@ -101,10 +91,6 @@ TEST_F(ProjectTest, WindowTypesFormATree) {
     };
     walk(LoadWindowTypes(*store_));
     EXPECT_EQ(found, "甲厂=11(60 系列=23(a=312()b=311())80 系列=29())乙厂=12()");
-    FieldSlots slots;
-    EXPECT_EQ(DrawingOfWindowType(*store_, "12", slots), "41");
-    EXPECT_THROW(DrawingOfWindowType(*store_, "13", slots), StoreError);
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

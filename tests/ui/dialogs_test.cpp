@@ -5,10 +5,9 @@
 #include "platform/files.h"
 #include "support/screens/screen_kit.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
-class DialogsTest : public test::ScreenTest {
+class DialogsTest : public ScreenTest {
   protected:
     void SetUp() override {
         ScreenTest::SetUp();
@@ -16,7 +15,7 @@ class DialogsTest : public test::ScreenTest {
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     }
 
-    static test::ModalScript::Work Press(QMessageBox::StandardButton button, const QString& caption) {
+    static ModalScript::Work Press(QMessageBox::StandardButton button, const QString& caption) {
         return [button, caption](QDialog& screen) {
             auto* box = qobject_cast<QMessageBox*>(&screen);
             ASSERT_NE(box, nullptr);
@@ -25,11 +24,11 @@ class DialogsTest : public test::ScreenTest {
             box->button(button)->click();
         };
     }
-    static test::ModalScript::Work Choose(const QString& file) {
+    static ModalScript::Work Choose(const QString& file) {
         return [file](QDialog& screen) {
             auto* dialog = qobject_cast<QFileDialog*>(&screen);
             ASSERT_NE(dialog, nullptr);
-            test::Find<QLineEdit>(dialog, "fileNameEdit")->setText(file);
+            Find<QLineEdit>(dialog, "fileNameEdit")->setText(file);
             QMetaObject::invokeMethod(dialog, "accept");
         };
     }
@@ -48,7 +47,7 @@ TEST_F(DialogsTest, QuestionsAreAskedInChineseAndTextsShownPlainly) {
         {false, QMessageBox::Cancel, "取消", false},
     };
     for (const auto& c : cases) {
-        test::ModalScript().On("", Press(c.press, QString::fromUtf8(c.caption))).Run([&] {
+        ModalScript().On("", Press(c.press, QString::fromUtf8(c.caption))).Run([&] {
             const QString text = QStringLiteral("<b>真的吗？");
             EXPECT_EQ(c.yesNo ? UseDialogs().AskYesNo(nullptr, text, QStringLiteral("提示"))
                               : UseDialogs().AskOkCancel(nullptr, text, QStringLiteral("提示")),
@@ -56,7 +55,7 @@ TEST_F(DialogsTest, QuestionsAreAskedInChineseAndTextsShownPlainly) {
                 << c.caption;
         });
     }
-    test::ModalScript()
+    ModalScript()
         .On("",
             [](QDialog& screen) {
                 auto* box = qobject_cast<QMessageBox*>(&screen);
@@ -75,18 +74,18 @@ TEST_F(DialogsTest, SavingAsksBeforeItOverwritesAndRemembersTheFolder) {
     const auto save = [&](bool asks) {
         return UseDialogs().SaveFileName(nullptr, plan, filter, QStringLiteral("DDD"), asks);
     };
-    test::ModalScript()
+    ModalScript()
         .On("QFileDialog", Choose(InFolder("plans/old")))
         .On("", Press(QMessageBox::No, QStringLiteral("否")))
         .On("QFileDialog", Choose(InFolder("plans/new")))
         .Run([&] { EXPECT_EQ(save(true), InFolder("plans/new.DDD")); });
-    test::ModalScript().On("QFileDialog", Choose(InFolder("plans/old.DDD"))).Run([&] {
+    ModalScript().On("QFileDialog", Choose(InFolder("plans/old.DDD"))).Run([&] {
         EXPECT_EQ(save(false), InFolder("plans/old.DDD"));
     });
 
     const auto folderOffered = [&](const QString& purpose) {
         QString folder;
-        test::ModalScript()
+        ModalScript()
             .On("QFileDialog",
                 [&](QDialog& screen) { folder = qobject_cast<QFileDialog*>(&screen)->directory().path(); })
             .Run([&] { EXPECT_EQ(UseDialogs().OpenFileName(nullptr, purpose, filter), QString()); });
@@ -96,5 +95,4 @@ TEST_F(DialogsTest, SavingAsksBeforeItOverwritesAndRemembersTheFolder) {
     EXPECT_EQ(folderOffered(QStringLiteral("picture")), QString::fromStdString(folder_.Path().string()));
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test
