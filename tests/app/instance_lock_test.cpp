@@ -1,6 +1,5 @@
 #include "app/instance_lock.h"
 
-#include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -10,22 +9,11 @@
 #include "platform/error.h"
 #include "support/temp_folder.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
-TEST(InstanceLock, IsHeldByOneAndFreedWithIt) {
-    const test::TempFolder folder;
-    std::optional<InstanceLock> first(folder.Path());
-    InstanceLock second(folder.Path());
-    EXPECT_TRUE(first->Acquire());
-    EXPECT_TRUE(first->Acquire());  // asking again changes nothing
-    EXPECT_FALSE(second.Acquire());
-    first.reset();
-    EXPECT_TRUE(second.Acquire());
-}
-
-TEST(InstanceLock, AKilledProgramLeavesNoLock) {
-    const test::TempFolder folder;
+TEST(InstanceLock, IsHeldByOneAndFreedWithItAlsoByAKill) {
+    const TempFolder folder;
+    EXPECT_THROW(InstanceLock(folder / "missing").Acquire(), FileError);
     int ready[2];
     ASSERT_EQ(pipe(ready), 0);
     const pid_t child = fork();
@@ -39,20 +27,18 @@ TEST(InstanceLock, AKilledProgramLeavesNoLock) {
     char held = 0;
     ASSERT_EQ(read(ready[0], &held, 1), 1);
     EXPECT_EQ(held, 'y');
-    InstanceLock lock(folder.Path());
-    EXPECT_FALSE(lock.Acquire());
+    std::optional<InstanceLock> lock(folder.Path());
+    InstanceLock another(folder.Path());
+    EXPECT_FALSE(lock->Acquire());
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
-    EXPECT_TRUE(lock.Acquire());
+    EXPECT_TRUE(lock->Acquire());
+    EXPECT_TRUE(lock->Acquire());  // asking again changes nothing
+    EXPECT_FALSE(another.Acquire());
+    lock.reset();
+    EXPECT_TRUE(another.Acquire());
     close(ready[0]);
     close(ready[1]);
 }
 
-TEST(InstanceLock, AMissingFolderIsTold) {
-    const test::TempFolder folder;
-    InstanceLock lock(folder / "missing");
-    EXPECT_THROW(lock.Acquire(), FileError);
-}
-
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

@@ -1,41 +1,27 @@
 #include "drawing/drawing_library.h"
 
-#include <gtest/gtest.h>
-
 #include "drawing/recorders.h"
 #include "platform/error.h"
-#include "store/connection.h"
-#include "store/store_files.h"
-#include "support/store_rows.h"
-#include "support/temp_folder.h"
+#include "support/main_store.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
-class DrawingLibraryTest : public ::testing::Test {
+class DrawingLibraryTest : public MainStoreTest {
   protected:
-    void SetUp() override {
-        CreateStore(folder_ / "cl.mdb", StoreKind::Main);
-        store_ = std::make_unique<Connection>(folder_ / "cl.mdb", StoreKind::Main);
-    }
-
     std::string Stored(const char* number) {
         CPictire read(notice_);
         read.OpenFileEX(*store_, number);
         return Describe(read);
     }
 
-    test::TempFolder folder_;
-    std::unique_ptr<Connection> store_;
-    RecordingNotice notice_;
     CPictire picture_{notice_};
 };
 
 TEST_F(DrawingLibraryTest, SavesAndOpensByNumber) {
     FillWithEachKind(picture_);
     SaveNewDrawing(*store_, "7", "推拉窗", picture_);
-    EXPECT_EQ(test::Rows(*store_, "Select * from 图"), "7|推拉窗");
-    EXPECT_EQ(test::Rows(*store_, "Select * from Strings"), "7|8|框厚 KH1|7");
+    EXPECT_EQ(Rows("Select * from 图"), "7|推拉窗");
+    EXPECT_EQ(Rows("Select * from Strings"), "7|8|框厚 KH1|7");
     EXPECT_EQ(Stored("7"), kEachKind);
     EXPECT_EQ(Stored("8"), "");
 
@@ -74,29 +60,25 @@ TEST_F(DrawingLibraryTest, AQuoteInATextFailsWithTheRowsBeforeItKept) {
     changed.AddString({{4, 4}, "B'"});
     changed.AddArc({{5, 5}, {6, 7}, {8, 8}});
     EXPECT_THROW(changed.SaveFileEx(*store_, "7", ""), StoreError);
-    store_ = std::make_unique<Connection>(folder_ / "cl.mdb", StoreKind::Main);
+    store_ = std::make_unique<Connection>(file_, StoreKind::Main);
     EXPECT_EQ(Stored("7"), "Line 1,1 2,2; String 3,3 B");
 }
 
-TEST_F(DrawingLibraryTest, NumbersAndNames) {
+TEST_F(DrawingLibraryTest, AreNumberedAndListed) {
     EXPECT_EQ(NextDrawingNumber(*store_), "1");
     SaveNewDrawing(*store_, "41", "甲", picture_);
-    store_->Execute("Insert into 图 (编号) values(5)");
+    Insert({"图 (编号) values(5)"});
     EXPECT_EQ(NextDrawingNumber(*store_), "42");
-    EXPECT_TRUE(DrawingExists(*store_, "41"));
     EXPECT_FALSE(DrawingExists(*store_, "4"));
     std::string listed;
     for (const DrawingEntry& entry : ListDrawings(*store_)) listed += entry.number + entry.name + ";";
     EXPECT_EQ(listed, "41甲;5;");
     EXPECT_THROW(SaveNewDrawing(*store_, "甲", "乙", picture_), StoreError);
-}
 
-TEST_F(DrawingLibraryTest, ReadingStopsAtACoordinateThatIsNull) {
-    store_->Execute("Insert into Line (x1,y1,x2,y2,Bn) values(1,2,3,4,7)");
-    store_->Execute("Insert into Line (x1,y1,x2,Bn) values(1,2,3,7)");
+    // Reading stops at a coordinate that is Null.
+    Insert({"Line (x1,y1,x2,y2,Bn) values(1,2,3,4,7)", "Line (x1,y1,x2,Bn) values(1,2,3,7)"});
     EXPECT_THROW(picture_.OpenFileEX(*store_, "7"), NumericError);
     EXPECT_EQ(Describe(picture_), "Line 1,2 3,4");
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

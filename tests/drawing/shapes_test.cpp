@@ -1,15 +1,12 @@
 #include "drawing/shapes.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 
 #include "drawing/recorders.h"
 #include "platform/error.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 TEST(Shapes, ArrowsAndDimensionMarks) {
     const struct {
@@ -111,15 +108,4 @@ TEST(Painting, StretchesTheFrameOverTheBoxInOrderOfKinds) {
     EXPECT_THROW(picture.PrintPic(bare, {0, 0, 0, 7935}, box), NumericError);
 }
 
-TEST(Painting, WingsAndStubsKeepTheirSizeInAPreview) {
-    RecordingNotice notice;
-    CPictire picture(notice);
-    picture.AddDim({{0, 0}, {2400, 0}, {1000, 1200}});
-    RecordingTarget target;
-    picture.PrintPic(target, kFrame, {0, 0, 949.5F, 793.5F});
-    EXPECT_EQ(target.ends[0], (Point{0, 120 + 186}));
-    EXPECT_EQ(target.ends[5], (Point{210, 120 + 56}));
-}
-
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

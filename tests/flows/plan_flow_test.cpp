@@ -1,26 +1,15 @@
 // The road from a project to its cutting plan and the plan's output, through the screens.
 
-#include <gtest/gtest.h>
-
-#include <QAction>
-#include <QProgressBar>
-#include <QPushButton>
-
 #include "optimise/screens/PYH02.h"
 #include "optimise/screens/frmYHMain.h"
 #include "platform/files.h"
 #include "project/screens/frmOpenGC.h"
 #include "support/screens/screen_kit.h"
-#include "support/store_rows.h"
 #include "ui/report_list.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
-using test::Find;
-using test::ModalScript;
-
-class PlanFlow : public test::ScreenTest {
+class PlanFlow : public ScreenTest {
   protected:
     void SetUp() override {
         ScreenTest::SetUp();
@@ -38,7 +27,6 @@ class PlanFlow : public test::ScreenTest {
         }
     }
 
-    static void Press(const QWidget& screen, const char* name) { Find<QPushButton>(&screen, name)->click(); }
     static std::string Table(const QWidget& screen, const char* name) {
         const auto* list = Find<ReportList>(&screen, name);
         QStringList rows;
@@ -124,9 +112,7 @@ TEST_F(PlanFlow, FromAnOpenProjectToTheOutputs) {
     App().YHScheme = 1;  // as the module may have left it
     frmOpenGC::Open({"2", "", "阳光花园", "", ""});
     frmOpenGC* opened = frmOpenGC::OfProject("2");
-    const QString text = QString::fromStdString((folder_ / "plan.txt").string());
-    const QString workbook = QString::fromStdString((folder_ / "plan.xlsx").string());
-    dialogs_.files = {QString(), text, workbook};
+    dialogs_.files = {QString(), InFolder("plan.txt"), InFolder("plan.xlsx")};
     ModalScript()
         .On("frmCreate02",
             [](QDialog& step) {
@@ -152,15 +138,14 @@ TEST_F(PlanFlow, FromAnOpenProjectToTheOutputs) {
         .Run([&] { Press(*opened, "cmdYH"); });
     EXPECT_EQ(dialogs_.filters, QStringList({QStringLiteral("*.txt|*.txt"), QStringLiteral("*.txt|*.txt"),
                                              QStringLiteral("Excel 工作簿|*.xlsx")}));
-    const std::string written = ReadFile(text.toStdString());
+    const std::string written = ReadFile(folder_ / "plan.txt");
     EXPECT_NE(written.find("\tPK60-08\t1120*4+920\t1\t0.9166667\t500"), std::string::npos) << written;
     EXPECT_NE(written.find("工程名称：阳光花园"), std::string::npos);
-    EXPECT_EQ(ReadFile(workbook.toStdString()).substr(0, 4), "PK\x03\x04");  // a zip, as .xlsx is
+    EXPECT_EQ(ReadFile(folder_ / "plan.xlsx").substr(0, 4), "PK\x03\x04");  // a zip, as .xlsx is
     // No desktop here to open it with: the operator is told, and the file stays.
     EXPECT_EQ(dialogs_.shown,
               QStringList(QStringLiteral("提示|确认您的系统中是否安装了Excel软件或版本不兼容！")));
     delete opened;
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

@@ -2,45 +2,32 @@
 
 #include "formula/labels.h"
 #include "platform/error.h"
-#include "store/store_files.h"
-#include "support/recording_notice.h"
-#include "support/temp_folder.h"
+#include "support/main_store.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
-class ExpansionTest : public testing::Test {
+class ExpansionTest : public MainStoreTest {
   protected:
-    void SetUp() override {
-        CreateStore(folder / "cl.mdb", StoreKind::Main);
-        store = std::make_unique<Connection>(folder / "cl.mdb", StoreKind::Main);
-        for (const char* sql : {
-                 "Insert into 窗型材 (窗号,编号,名称,规格,数量,计算公式) "
-                 "values(5,1,'框B','K60','2.9','b-60')",
-                 "Insert into 窗型材 (窗号,编号,名称,规格,数量,计算公式) "
-                 "values(5,2,'框H','K60','0-1.5','h-h1-60')",
-                 "Insert into 窗型钢 (窗号,编号,名称,规格,数量,计算公式) values(5,1,'衬钢','G1','1','B/7')",
-                 "Insert into 窗板材 (窗号,编号,名称,数量,长公式,宽公式) "
-                 "values(5,1,'5白玻',2,'B-185','H-183')",
-                 "Insert into 窗配件 (窗号,编号,名称,规格,数量,单位) values(5,1,'滑轮','L1','2.5','个  ')",
-                 "Insert into 窗配件 (窗号,编号,名称,规格,数量,单位) values(5,2,'锁','S1','2.9','把')",
-                 "Insert into 标注 (MCNUM,MC,Px,Py,schar) Values(1,'B',10,20,'1500')",
-                 "Insert into 标注 (MCNUM,MC,Px,Py,schar) Values(1,'H',10,20,'1800')",
-                 "Insert into 标注 (MCNUM,MC,Px,Py,schar) Values(1,'H1',10,20,'600')",
-             }) {
-            store->Execute(sql);
-        }
+    ExpansionTest() {
+        Insert({"窗型材 (窗号,编号,名称,规格,数量,计算公式) values(5,1,'框B','K60','2.9','b-60')",
+                "窗型材 (窗号,编号,名称,规格,数量,计算公式) values(5,2,'框H','K60','0-1.5','h-h1-60')",
+                "窗型钢 (窗号,编号,名称,规格,数量,计算公式) values(5,1,'衬钢','G1','1','B/7')",
+                "窗板材 (窗号,编号,名称,数量,长公式,宽公式) values(5,1,'5白玻',2,'B-185','H-183')",
+                "窗配件 (窗号,编号,名称,规格,数量,单位) values(5,1,'滑轮','L1','2.5','个  ')",
+                "窗配件 (窗号,编号,名称,规格,数量,单位) values(5,2,'锁','S1','2.9','把')",
+                "标注 (MCNUM,MC,schar) Values(1,'B','1500')", "标注 (MCNUM,MC,schar) Values(1,'H','1800')",
+                "标注 (MCNUM,MC,schar) Values(1,'H1','600')"});
     }
 
     std::string Plain(const WindowToExpand& window) {
         std::string text;
-        ExpandPlain(*store, window, notice, Collect(text));
+        ExpandPlain(*store_, window, notice_, Collect(text));
         return text;
     }
 
     std::string Composite(const WindowToExpand& window) {
         std::string text;
-        ExpandComposite(*store, window, Collect(text));
+        ExpandComposite(*store_, window, Collect(text));
         return text;
     }
 
@@ -50,10 +37,6 @@ class ExpansionTest : public testing::Test {
                     "|" + row.unit + "\n";
         };
     }
-
-    test::TempFolder folder;
-    std::unique_ptr<Connection> store;
-    test::RecordingNotice notice;
 };
 
 TEST_F(ExpansionTest, PlainWindowGoesDownForBarsAndToTheNearestForFittings) {
@@ -67,32 +50,28 @@ TEST_F(ExpansionTest, PlainWindowGoesDownForBarsAndToTheNearestForFittings) {
               "5白玻||1315|1617|6|\n");
     EXPECT_EQ(Plain({"1", "5", "十樘"}).substr(0, 18), "框B|K60|1440||0|\n");
     EXPECT_EQ(Plain({"1", "99", "3"}), "");
-    EXPECT_TRUE(notice.shown.empty());
+    EXPECT_TRUE(notice_.shown.empty());
 }
 
 TEST_F(ExpansionTest, PlainWindowEndsAtAFailureAndKeepsTheRowsBefore) {
-    store->Execute("Update 窗配件 set 数量='99999' where 编号=1");
+    store_->Execute("Update 窗配件 set 数量='99999' where 编号=1");
     const std::string rows = Plain({"1", "5", "1"});
     EXPECT_TRUE(rows.ends_with("衬钢|G1|214.2857||1|\n")) << rows;
-    EXPECT_EQ(notice.shown, std::vector<std::string>{"出错！|溢出"});
-    store->Execute("Update 窗配件 set 数量='1',单位=Null where 编号=1");
+    EXPECT_EQ(notice_.shown, std::vector<std::string>{"出错！|溢出"});
+    store_->Execute("Update 窗配件 set 数量='1',单位=Null where 编号=1");
     EXPECT_EQ(Plain({"1", "5", "1"}), rows);
-    store->Execute("Update 窗型材 set 规格=Null where 编号=2");
+    store_->Execute("Update 窗型材 set 规格=Null where 编号=2");
     EXPECT_EQ(Plain({"1", "5", "1"}), "框B|K60|1440||2|\n");
-    store->Execute("Update 窗型材 set 计算公式='b)' where 编号=1");
+    store_->Execute("Update 窗型材 set 计算公式='b)' where 编号=1");
     EXPECT_EQ(Plain({"1", "5", "1"}), "");
 }
 
 TEST_F(ExpansionTest, CompositeMultipliesByTheMembersCount) {
-    for (const char* sql : {
-             "Delete * from 窗型材 where 编号=2",
-             "Delete * from 窗型钢",
-             "Insert into 标注2 (MCBN,CBN,MC,MCZ,CMC,px,py,count) values(7,5,'B','1000','甲10',0,0,3)",
-             "Insert into 标注2 (MCBN,CBN,MC,MCZ,CMC,px,py,count) values(7,5,'H','900','甲10',0,0,3)",
-             "Insert into 标注2 (MCBN,CBN,MC,MCZ,CMC,px,py,count) values(7,5,'B','500','甲11',0,0,1)",
-         }) {
-        store->Execute(sql);
-    }
+    for (const char* sql : {"Delete * from 窗型材 where 编号=2", "Delete * from 窗型钢"})
+        store_->Execute(sql);
+    Insert({"标注2 (MCBN,CBN,MC,MCZ,CMC,count) values(7,5,'B','1000','甲10',3)",
+            "标注2 (MCBN,CBN,MC,MCZ,CMC,count) values(7,5,'H','900','甲10',3)",
+            "标注2 (MCBN,CBN,MC,MCZ,CMC,count) values(7,5,'B','500','甲11',1)"});
     EXPECT_TRUE(IsComposite({"7", "-267", "2"}));
     // Member 甲11 has no label H, which vanishes from "H-183": an absent operand less 183.
     const std::string expected =
@@ -101,10 +80,9 @@ TEST_F(ExpansionTest, CompositeMultipliesByTheMembersCount) {
     EXPECT_EQ(Composite({"7", "-267", "2"}), expected);
     EXPECT_THROW(Composite({"7", "-267", "两"}), NumericError);
     // A member whose rows the lookup misses keeps the labels and the count of the one before it.
-    store->Execute("Insert into 标注2 (MCBN,CBN,MC,MCZ,count) values(7,6,'B','1',9)");
-    store->Execute("Insert into 窗型材 (窗号,编号,名称,规格,数量,计算公式) values(6,1,'扇B','K70','1','B')");
+    Insert({"标注2 (MCBN,CBN,MC,MCZ,count) values(7,6,'B','1',9)",
+            "窗型材 (窗号,编号,名称,规格,数量,计算公式) values(6,1,'扇B','K70','1','B')"});
     EXPECT_EQ(Composite({"7", "-267", "2"}), expected + "扇B|K70|500||2|\n");
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

@@ -70,14 +70,12 @@ class LiteralCal {
     }
 
     static std::string Fold(std::string text) {
-        const char* names[] = {"SIN", "COS", "ATN", "EXP", "LOG", "SQR", "TAN"};
-        const char* codes[] = {"E", "B", "A", "C", "D", "F", "G"};
-        for (int i = 0; i < 7; ++i) {
-            while (text.find(names[i]) != std::string::npos) {
-                const std::size_t at = text.find(names[i]);
+        for (const std::string name :
+             {"SINE", "COSB", "ATNA", "EXPC", "LOGD", "SQRF", "TANG"}) {  // and its code
+            for (std::size_t at; (at = text.find(name.substr(0, 3))) != std::string::npos;) {
                 const std::size_t open = text.find('(', at);
                 if (open == std::string::npos) return "";
-                text = text.substr(0, at) + codes[i] + text.substr(open + 1);
+                text = text.substr(0, at) + name[3] + text.substr(open + 1);
             }
         }
         return text;
@@ -89,13 +87,13 @@ class LiteralCal {
             return;
         }
         double value = std::numeric_limits<double>::quiet_NaN();
-        if (token == "+" || token == "-" || token == "*" || token == "/") {
+        if (std::string("+-*/").find(token) != std::string::npos) {
             const double right = Val(stack_.Pop());
             const double left = Val(stack_.Pop());
-            if (token == "+") value = left + right;
-            if (token == "-") value = left - right;
-            if (token == "*") value = left * right;
-            if (token == "/") value = left / right;
+            value = token == "+"   ? left + right
+                    : token == "-" ? left - right
+                    : token == "*" ? left * right
+                                   : left / right;
         } else if (IsCode(token)) {
             const double x = Val(stack_.Pop());
             if (token == "A") value = std::atan(x) / 3.14 * 180;

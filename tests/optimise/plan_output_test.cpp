@@ -1,47 +1,37 @@
-#include <filesystem>
-
 #include "optimise/demand_file.h"
 #include "optimise/plan.h"
 #include "optimise/plan_text.h"
 #include "optimise/plan_workbook.h"
 #include "platform/error.h"
 #include "platform/files.h"
-#include "store/store_files.h"
-#include "support/temp_folder.h"
+#include "support/main_store.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 /// A plan of two materials, one with two like bars on rows of their own.
-PlanOutput SamplePlan(const std::filesystem::path& file) {
-    CreateStore(file, StoreKind::Main);
-    Connection connection(file, StoreKind::Main);
-    InsertPlanRow(connection, {"B", "800*4", "1", "0.5", "2800"});
-    InsertPlanRow(connection, {"A", "2000*3", "1", "1", "0"});
-    InsertPlanRow(connection, {"A", "1500", "1", "0.25", "4500"});
-    InsertPlanRow(connection, {"A", "2000*3", "1", "1", "0"});
-    return LoadPlanOutput(connection, "阳光花园", "2024-05-01");
-}
+class PlanTest : public MainStoreTest {
+  protected:
+    PlanTest() {
+        InsertPlanRow(*store_, {"B", "800*4", "1", "0.5", "2800"});
+        InsertPlanRow(*store_, {"A", "2000*3", "1", "1", "0"});
+        InsertPlanRow(*store_, {"A", "1500", "1", "0.25", "4500"});
+        InsertPlanRow(*store_, {"A", "2000*3", "1", "1", "0"});
+        plan_ = LoadPlanOutput(*store_, "阳光花园", "2024-05-01");
+    }
 
-TEST(PlanTest, SumsLikeBarsAndNamesAMaterialOnce) {
-    const test::TempFolder folder;
-    const PlanOutput plan = SamplePlan(folder / kMainStoreName);
+    PlanOutput plan_;
+};
+
+TEST_F(PlanTest, SumsLikeBarsNamesAMaterialOnceAndIsWrittenAsText) {
     const std::vector<CutRow> cuts = {{"A", "1500", "1", "0.25", "4500"},
                                       {"", "2000*3", "2", "1", "0"},
                                       {"B", "800*4", "1", "0.5", "2800"}};
-    EXPECT_EQ(plan.cuts, cuts);
+    EXPECT_EQ(plan_.cuts, cuts);
     // (1 + 0.25 + 1) / 3
     const std::vector<TotalRow> totals = {{"A", "3", "0.75"}, {"B", "1", "0.5"}};
-    EXPECT_EQ(plan.totals, totals);
-    Connection connection(folder / kMainStoreName, StoreKind::Main);
-    ASSERT_EQ(LoadPlan(connection).size(), 4u);
-    EXPECT_EQ(LoadPlan(connection)[1].pattern, "2000*3");
-}
-
-TEST(PlanTest, WritesTheTextFile) {
-    const test::TempFolder folder;
-    SavePlanText(SamplePlan(folder / kMainStoreName), folder / "plan.txt");
-    EXPECT_EQ(ReadFile(folder / "plan.txt"),
+    EXPECT_EQ(plan_.totals, totals);
+    SavePlanText(plan_, folder_ / "plan.txt");
+    EXPECT_EQ(ReadFile(folder_ / "plan.txt"),
               "\xEF\xBB\xBF"
               "材料优化切割表\r\n"
               "\r\n"
@@ -59,60 +49,45 @@ TEST(PlanTest, WritesTheTextFile) {
               "\tB\t1\t0.5\r\n"
               "总经理签字\r\n\r\n主管签字\r\n\r\n"
               "\t日期2024-05-01\r\n");
-    EXPECT_THROW(SavePlanText({}, folder / "missing" / "plan.txt"), FileError);
+    EXPECT_THROW(SavePlanText({}, folder_ / "missing" / "plan.txt"), FileError);
 }
 
-TEST(PlanTest, FillsTheSpreadsheet) {
-    const test::TempFolder folder;
-    const Workbook workbook = PlanWorkbook(SamplePlan(folder / kMainStoreName));
+TEST_F(PlanTest, FillsTheSpreadsheet) {
+    const Workbook workbook = PlanWorkbook(plan_);
     const struct {
         std::size_t sheet;
         int row, column;
         const char* text;
         bool isNumber, hasBorder;
-    } cells[] = {
-        {0, 1, 1, "材料优化切割表", false, false},
-        {0, 3, 1, "   工程名称：", false, false},
-        {0, 3, 2, "阳光花园", false, false},
-        {0, 4, 2, "                 切割规格", false, true},
-        {0, 5, 2, "1500", false, true},
-        {0, 6, 1, "", false, true},
-        {0, 6, 3, "2", true, true},
-        {0, 7, 5, "2800", true, true},
-        {0, 8, 1, "", false, false},
-        {0, 9, 1, "日期", false, false},
-        {0, 9, 2, "2024-05-01", false, false},
-        {1, 1, 1, "材料优化统计表", false, false},
-        {1, 4, 4, "   采购数量", false, true},
-        {1, 5, 3, "0.75", true, true},
-        {1, 6, 4, "", false, true},
-        {1, 7, 1, "总经理签字", false, false},
-        {1, 7, 3, "主管签字", false, false},
-        {1, 9, 3, "2024-05-01", false, false},
-    };
+    } cells[] = {{0, 1, 1, "材料优化切割表", false, false},
+                 {0, 3, 2, "阳光花园", false, false},
+                 {0, 4, 2, "                 切割规格", false, true},
+                 {0, 6, 1, "", false, true},
+                 {0, 6, 3, "2", true, true},
+                 {0, 7, 5, "2800", true, true},
+                 {1, 4, 4, "   采购数量", false, true},
+                 {1, 5, 3, "0.75", true, true},
+                 {1, 9, 3, "2024-05-01", false, false}};
     for (const auto& cell : cells) {
         const Sheet& sheet = workbook.Sheets().at(cell.sheet);
         EXPECT_EQ(sheet.Text(cell.row, cell.column), cell.text) << cell.row << " " << cell.column;
         EXPECT_EQ(sheet.IsNumber(cell.row, cell.column), cell.isNumber) << cell.text;
         EXPECT_EQ(sheet.HasBorder(cell.row, cell.column), cell.hasBorder) << cell.text;
     }
-    workbook.Save(folder / "plan.xlsx");
-    EXPECT_EQ(ReadFile(folder / "plan.xlsx").substr(0, 2), "PK");
-    EXPECT_THROW(workbook.Save(folder / "missing" / "plan.xlsx"), FileError);
+    workbook.Save(folder_ / "plan.xlsx");
+    EXPECT_EQ(ReadFile(folder_ / "plan.xlsx").substr(0, 2), "PK");
+    EXPECT_THROW(workbook.Save(folder_ / "missing" / "plan.xlsx"), FileError);
 }
 
-TEST(DemandFileTest, WritesTwoLinesPerRowAndReadsThemBack) {
-    const test::TempFolder folder;
-    WriteDemandFile(folder / "a.DDD", {{"2000", "3"}, {"1500.5", "4"}});
+TEST(DemandFileTest, WritesTwoLinesPerRowAndReadsForeignFilesAsFarAsTheyAreWhole) {
+    const TempFolder folder;
+    std::vector<ManualRow> rows = {{"2000", "3"}, {"1500.5", "4"}};
+    WriteDemandFile(folder / "a.DDD", rows);
     EXPECT_EQ(ReadFile(folder / "a.DDD"), "2000\r\n3\r\n1500.5\r\n4\r\n");
-    std::vector<ManualRow> rows;
-    ReadDemandFile(folder / "a.DDD", rows);
     ReadDemandFile(folder / "a.DDD", rows);  // rows are added
     ASSERT_EQ(rows.size(), 4u);
     EXPECT_EQ(rows[3].length, "1500.5");
-}
 
-TEST(DemandFileTest, ReadsForeignFilesAndKeepsWholeRows) {
     const struct {
         const char* bytes;
         const char* expected;
@@ -126,9 +101,8 @@ TEST(DemandFileTest, ReadsForeignFilesAndKeepsWholeRows) {
         {"2000", "", false},
     };
     for (const auto& file : files) {
-        const test::TempFolder folder;
         WriteFileAtomically(folder / "a.DDD", file.bytes);
-        std::vector<ManualRow> rows;
+        rows.clear();
         bool isWhole = true;
         try {
             ReadDemandFile(folder / "a.DDD", rows);
@@ -142,5 +116,4 @@ TEST(DemandFileTest, ReadsForeignFilesAndKeepsWholeRows) {
     }
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

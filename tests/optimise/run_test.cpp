@@ -1,7 +1,6 @@
 #include "optimise/run.h"
 
 #include <map>
-#include <optional>
 #include <random>
 #include <sstream>
 
@@ -9,78 +8,57 @@
 #include "optimise/manual_run.h"
 #include "optimise/plan.h"
 #include "platform/error.h"
-#include "store/store_files.h"
-#include "support/recording_notice.h"
-#include "support/store_rows.h"
-#include "support/temp_folder.h"
+#include "support/main_store.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 constexpr const char* kPlan = "Select 材料名称,切割规格,数量,优化比率,剩余料长 from 优化结果";
 
-/// A main store of its own, the settings of a run, and what the operator is shown.
-class RunTest : public testing::Test {
+/// The settings of a run over the main store's demand.
+class RunTest : public MainStoreTest {
   protected:
-    RunTest() {
-        CreateStore(folder / kMainStoreName, StoreKind::Main);
-        connection.emplace(folder / kMainStoreName, StoreKind::Main);
-        settings.CLC = 6000;
-    }
+    RunTest() { settings.CLC = 6000; }
 
-    void Demand(const std::string& material, int length, std::int64_t count) {
-        connection->Execute("Insert into 优化数据 (规格,长度,数量) values('" + material + "'," +
-                            std::to_string(length) + "," + std::to_string(count) + ")");
+    void Demand(const std::string& material, const std::vector<std::pair<int, int>>& lengthsAndCounts) {
+        for (const auto& [length, count] : lengthsAndCounts) {
+            Insert({"优化数据 (规格,长度,数量) values('" + material + "'," + std::to_string(length) + "," +
+                    std::to_string(count) + ")"});
+        }
     }
 
     /// The plan of the given materials, by default of all.
     std::string Run(std::int16_t scheme, std::vector<std::string> materials = {}) {
-        if (materials.empty()) materials = ListMaterials(*connection);
-        RunOptimisation(*connection, settings, scheme, materials, notice, nullptr);
-        return test::Rows(*connection, kPlan);
+        if (materials.empty()) materials = ListMaterials(*store_);
+        RunOptimisation(*store_, settings, scheme, materials, notice_, nullptr);
+        return Rows(kPlan);
     }
 
-    const test::TempFolder folder;
-    std::optional<Connection> connection;
     OptimiseSettings settings;
-    test::RecordingNotice notice;
 };
 
-TEST_F(RunTest, PracticalOptimiserFillsBarsLongestFirst) {
+TEST_F(RunTest, PracticalOptimiserFillsBarsLongestFirstAndReportsWhatFitsNone) {
     settings.LTC = 10;
     settings.CKK = 5;
-    Demand("A", 1500, 4);
-    Demand("A", 2000, 3);
-    Demand("A", 800, 2);
-    Demand("A", 800, 3);
+    Demand("A", {{1500, 4}, {2000, 3}, {800, 2}, {800, 3}});
     EXPECT_EQ(Run(0),
               "A|2000*2+1500|1|0.9266667|440\n"
               "A|2000+1500*2+800|1|0.98|120\n"
               "A|1500+800*4|1|0.8|1200");
-    EXPECT_TRUE(notice.shown.empty());
-}
+    EXPECT_TRUE(notice_.shown.empty());
 
-TEST_F(RunTest, PracticalOptimiserReportsWhatFitsNoBar) {
-    settings.LTC = 10;
-    settings.CKK = 5;
-    Demand("A", 5980, 1);  // exactly the bar
-    Demand("B", 7000, 1);
-    Demand("B", 3000, 1);
-    Demand("C", 8000, 1);
-    Demand("C", 7000, 1);
-    Demand("D", -21, 1);
-    Demand("D", 500, 1);
+    store_->Execute("Delete from 优化数据");
+    Demand("A", {{5980, 1}});  // exactly the bar
+    Demand("B", {{7000, 1}, {3000, 1}});
+    Demand("C", {{8000, 1}, {7000, 1}});
+    Demand("D", {{-21, 1}, {500, 1}});
     EXPECT_EQ(Run(0), "A|5980|1|1|0\nB|3000|1|0.5033333|2980");
-    EXPECT_EQ(notice.shown, (std::vector<std::string>{"|过大：7020", "|过大：7020", "|异常值：-1"}));
+    EXPECT_EQ(notice_.shown, (std::vector<std::string>{"|过大：7020", "|过大：7020", "|异常值：-1"}));
 }
 
 TEST_F(RunTest, LinearOptimiserFindsTheBestBars) {
     settings.LTC = 10;
     settings.CKK = 5;
-    Demand("A", 2000, 1);
-    Demand("A", 2000, 2);
-    Demand("A", 1500, 4);
-    Demand("A", 800, 5);
+    Demand("A", {{2000, 1}, {2000, 2}, {1500, 4}, {800, 5}});
     EXPECT_EQ(Run(1),
               "A|800*3+1500+2000|1|100|0\n"
               "A|800+1500*2+2000|1|98|120\n"
@@ -93,45 +71,45 @@ TEST_F(RunTest, LinearOptimiserFindsTheBestBars) {
     settings.YHBL = 1;
     settings.NODES = 5;
     EXPECT_EQ(Run(1), "A|800+1500*2+2000|2|98|120\nA|800*3+2000|1|74.67|1520");
-    EXPECT_TRUE(notice.shown.empty());
+    EXPECT_TRUE(notice_.shown.empty());
 }
 
-TEST_F(RunTest, LinearOptimiserPutsSmallPiecesOnOneRow) {
-    Demand("A", 200, 100);
+TEST_F(RunTest, LinearOptimiserPutsSmallPiecesOnOneRowAndReportsBadData) {
+    Demand("A", {{200, 100}});
     EXPECT_EQ(Run(1), "A|200*100|1|66.67|2000");
     settings.CLC = 0;  // a bar never set: every piece is longer
     EXPECT_EQ(Run(1), "");
-    EXPECT_EQ(notice.shown, (std::vector<std::string>{"提示|在数据检查时发现值:200大于根长度!"}));
-}
+    EXPECT_EQ(notice_.shown, (std::vector<std::string>{"提示|在数据检查时发现值:200大于根长度!"}));
 
-/// A length that only the last bars come to is reported after the rows of the others.
-TEST_F(RunTest, LinearOptimiserKeepsTheRowsBeforeBadData) {
+    // A length that only the last bars come to is reported after the rows of the others.
+    store_->Execute("Delete from 优化数据");
+    settings.CLC = 6000;
     settings.NODES = 4;
-    for (const int length : {3000, 7000}) Demand("A", length, length == 3000 ? 4 : 1);
+    Demand("A", {{3000, 4}, {7000, 1}});
     EXPECT_EQ(Run(1), "A|3000*2|2|100|0");
-    EXPECT_EQ(notice.shown, (std::vector<std::string>{"提示|在数据检查时发现值:7000大于根长度!"}));
+    EXPECT_EQ(notice_.shown.back(), "提示|在数据检查时发现值:7000大于根长度!");
 }
 
 TEST_F(RunTest, FailureEndsTheRunOrTheLinearMaterialOnly) {
     settings.CLC = 32000;
-    Demand("A", 500, 1);
-    for (int i = 0; i < 20; ++i) Demand("B", 1000 + i, 1);
-    Demand("B", 9, 1);  // 20 * 5 characters and one more
-    Demand("C", 500, 1);
+    Demand("A", {{500, 1}});
+    for (int i = 0; i < 20; ++i) Demand("B", {{1000 + i, 1}});
+    Demand("B", {{9, 1}});  // 20 * 5 characters and one more
+    Demand("C", {{500, 1}});
     EXPECT_EQ(Run(0), "A|500|1|0.015625|31500");
     EXPECT_EQ(Run(1), "A|500|1|1.56|31500\nC|500|1|1.56|31500");
-    ASSERT_EQ(notice.shown.size(), 2u);
-    for (const std::string& text : notice.shown) EXPECT_EQ(text.rfind("出错|", 0), 0u) << text;
-    EXPECT_EQ(notice.icons.back(), NoticeIcon::Error);
+    ASSERT_EQ(notice_.shown.size(), 2u);
+    for (const std::string& text : notice_.shown) EXPECT_EQ(text.rfind("出错|", 0), 0u) << text;
+    EXPECT_EQ(notice_.icons.back(), NoticeIcon::Error);
 
-    connection->Execute("Update 优化数据 set 长度=999 where 长度=1000");  // 100 characters
+    store_->Execute("Update 优化数据 set 长度=999 where 长度=1000");  // 100 characters
     EXPECT_EQ(Run(0, {"B"}).substr(0, 7), "B|1019+");
-    EXPECT_EQ(notice.shown.size(), 2u);
+    EXPECT_EQ(notice_.shown.size(), 2u);
 }
 
 TEST_F(RunTest, NumbersBeyondSixteenBitsFail) {
     const struct {
-        std::vector<std::pair<int, std::int64_t>> demand;  // lengths and counts
+        std::vector<std::pair<int, int>> demand;  // lengths and counts
         std::int16_t scheme, nodes;
         const char* shown;
     } rows[] = {
@@ -146,30 +124,19 @@ TEST_F(RunTest, NumbersBeyondSixteenBitsFail) {
     };
     settings.CKK = 5;
     for (const auto& row : rows) {
-        connection->Execute("Delete from 优化数据");
-        notice.shown.clear();
+        store_->Execute("Delete from 优化数据");
+        notice_.shown.clear();
         settings.NODES = row.nodes;
-        for (const auto& [length, count] : row.demand) Demand("A", length, count);
+        Demand("A", row.demand);
         EXPECT_EQ(Run(row.scheme), "");
-        EXPECT_EQ(notice.shown.empty() ? "" : notice.shown[0], row.shown);
+        EXPECT_EQ(notice_.shown.empty() ? "" : notice_.shown[0], row.shown);
     }
-}
-
-/// Pieces of a pattern text by length; throws when it is malformed.
-std::map<int, int> PiecesOf(const std::string& pattern) {
-    std::map<int, int> pieces;
-    std::istringstream stream(pattern);
-    for (std::string part; std::getline(stream, part, '+');) {
-        const std::size_t star = part.find('*');
-        pieces[std::stoi(part)] += star == std::string::npos ? 1 : std::stoi(part.substr(star + 1));
-    }
-    return pieces;
 }
 
 TEST_F(RunTest, PlansCutExactlyTheDemand) {
     std::mt19937 random(2024);
     for (int round = 0; round < 24; ++round) {
-        connection->Execute("Delete from 优化数据");
+        store_->Execute("Delete from 优化数据");
         settings.LTC = static_cast<std::int16_t>(random() % 20);
         settings.CKK = static_cast<std::int16_t>(random() % 6);
         settings.NODES = static_cast<std::int16_t>(random() % 60 + 5);
@@ -180,14 +147,18 @@ TEST_F(RunTest, PlansCutExactlyTheDemand) {
             const int length = static_cast<int>(random() % 2900) + 400;
             const int count = static_cast<int>(random() % 15) + 1;
             demand[length] += count;
-            Demand("A", length, count);
+            Demand("A", {{length, count}});
         }
         Run(scheme);
-        const std::vector<PlanRow> plan = LoadPlan(*connection);
+        const std::vector<PlanRow> plan = LoadPlan(*store_);
         for (std::size_t i = 0; i < plan.size(); ++i) {
             const int bars = std::stoi(plan[i].count);
             int used = 0;
-            for (const auto& [length, count] : PiecesOf(plan[i].pattern)) {
+            std::istringstream pattern(plan[i].pattern);
+            for (std::string part; std::getline(pattern, part, '+');) {
+                const std::size_t star = part.find('*');
+                const int length = std::stoi(part);
+                const int count = star == std::string::npos ? 1 : std::stoi(part.substr(star + 1));
                 used += (length + settings.LTC + 2 * settings.CKK) * count;
                 demand[length] -= count * bars;
             }
@@ -198,53 +169,45 @@ TEST_F(RunTest, PlansCutExactlyTheDemand) {
         }
         for (const auto& [length, left] : demand) EXPECT_EQ(left, 0) << length << " in round " << round;
     }
-    EXPECT_TRUE(notice.shown.empty());
+    EXPECT_TRUE(notice_.shown.empty());
 }
 
 TEST_F(RunTest, ProgressNamesTheMaterialAndComesBackInLongSearches) {
-    Demand("A", 100, 1);
+    Demand("A", {{100, 1}});
     std::mt19937 random(5);
-    for (int i = 0; i < 60; ++i) Demand("B", static_cast<int>(random() % 3000) + 3000, 1);
+    for (int i = 0; i < 60; ++i) Demand("B", {{static_cast<int>(random() % 3000) + 3000, 1}});
     settings.NODES = 60;
     std::vector<int> calls(2);
-    RunOptimisation(*connection, settings, 1, {"A", "B"}, notice, [&](std::size_t i) { ++calls[i]; });
+    RunOptimisation(*store_, settings, 1, {"A", "B"}, notice_, [&](std::size_t i) { ++calls[i]; });
     EXPECT_EQ(calls[0], 1);
     EXPECT_GT(calls[1], 2);
 }
 
 TEST_F(RunTest, ManualRunReplacesDemandAndPlan) {
-    Demand("A", 100, 1);
+    Demand("A", {{100, 1}});
     Run(0);
     const std::vector<ManualRow> rows = {{"2000", "3"}, {"1000", "2"}, {"2000", "3"}};
-    RunManual(*connection, settings, 0, "M", rows, notice, nullptr);
-    EXPECT_EQ(test::Rows(*connection, kPlan), "M|2000*3|1|1|0\nM|2000*3|1|1|0\nM|1000*2|1|0.3333333|4000");
-    RunManual(*connection, settings, 1, "M", rows, notice, nullptr);
-    EXPECT_EQ(test::Rows(*connection, kPlan),
-              "M|1000*2+2000*2|1|100|0\nM|2000*3|1|100|0\nM|2000|1|33.33|4000");
-    EXPECT_EQ(ListMaterials(*connection), std::vector<std::string>{""});
+    RunManual(*store_, settings, 0, "M", rows, notice_, nullptr);
+    EXPECT_EQ(Rows(kPlan), "M|2000*3|1|1|0\nM|2000*3|1|1|0\nM|1000*2|1|0.3333333|4000");
+    RunManual(*store_, settings, 1, "M", rows, notice_, nullptr);
+    EXPECT_EQ(Rows(kPlan), "M|1000*2+2000*2|1|100|0\nM|2000*3|1|100|0\nM|2000|1|33.33|4000");
+    EXPECT_EQ(ListMaterials(*store_), std::vector<std::string>{""});
 
     settings.NODES = 0;  // the linear optimiser reports, the practical one throws
-    RunManual(*connection, settings, 1, "M", rows, notice, nullptr);
-    EXPECT_EQ(notice.shown, std::vector<std::string>{"出错|除数为零"});
-    EXPECT_THROW(RunManual(*connection, settings, 0, "M", {{"100", "1"}, {"0", "2"}}, notice, nullptr),
+    RunManual(*store_, settings, 1, "M", rows, notice_, nullptr);
+    EXPECT_EQ(notice_.shown, std::vector<std::string>{"出错|除数为零"});
+    EXPECT_THROW(RunManual(*store_, settings, 0, "M", {{"100", "1"}, {"0", "2"}}, notice_, nullptr),
                  NumericError);
-    EXPECT_EQ(test::Rows(*connection, "Select 长度 from 优化数据"), "100\n0");
+    EXPECT_EQ(Rows("Select 长度 from 优化数据"), "100\n0");
 }
 
 TEST_F(RunTest, ManualRowsAreChecked) {
-    const struct {
-        ManualRow row;
-        const char* message;
-    } rows[] = {
-        {{"", "3"}, "数据不能为空！"},  {{"0", "3"}, "数据不能为空！"},    {{"5", ""}, "数据不能为空！"},
-        {{"5", "0"}, "数据不能为空！"}, {{"6000", "3"}, "数据大于6000！"}, {{"5999.9", "3"}, ""},
-    };
-    for (const auto& entry : rows) {
-        const auto failure = CheckManualRow(entry.row, settings);
-        EXPECT_EQ(failure ? failure->message : "", entry.message) << entry.row.length;
+    for (const ManualRow& row : {ManualRow{"", "3"}, {"0", "3"}, {"5", ""}, {"5", "0"}}) {
+        EXPECT_EQ(CheckManualRow(row, settings)->message, "数据不能为空！") << row.length;
     }
+    EXPECT_EQ(CheckManualRow({"6000", "3"}, settings)->message, "数据大于6000！");
+    EXPECT_FALSE(CheckManualRow({"5999.9", "3"}, settings).has_value());
     EXPECT_EQ(CheckManualRow({"5", "0"}, settings)->field, ManualRowFailure::Field::Count);
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

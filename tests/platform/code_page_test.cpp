@@ -2,8 +2,7 @@
 
 #include "platform/error.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 TEST(CodePage, TellsGbkFromUtf8) {
     EXPECT_EQ(ToGbk("B一国"), "B\xD2\xBB\xB9\xFA");
@@ -25,5 +24,4 @@ TEST(CodePage, TellsGbkFromUtf8) {
     EXPECT_EQ(CodePageWords("a国"), (std::vector<std::int16_t>{97, static_cast<std::int16_t>(0xB9FA)}));
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

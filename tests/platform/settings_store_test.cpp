@@ -6,11 +6,10 @@
 #include "platform/files.h"
 #include "support/temp_folder.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 TEST(SettingsStore, KeepsTextsOverARestart) {
-    const test::TempFolder folder;
+    const TempFolder folder;
     const auto file = folder / "deep/settings";
     {
         SettingsStore store(file);
@@ -26,7 +25,7 @@ TEST(SettingsStore, KeepsTextsOverARestart) {
 }
 
 TEST(Files, AFailedWriteLeavesTheOldFile) {
-    const test::TempFolder folder;
+    const TempFolder folder;
     WriteFileAtomically(folder / "a.MC", "old");
     EXPECT_THROW(WriteFileAtomically(folder / "missing/a.MC", "new"), FileError);
     std::filesystem::create_directory(folder / "d");
@@ -37,5 +36,4 @@ TEST(Files, AFailedWriteLeavesTheOldFile) {
     EXPECT_THROW(ReadFile(folder / "none"), FileError);
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

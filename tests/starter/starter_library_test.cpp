@@ -7,12 +7,9 @@
 #include "app/store_setup.h"
 #include "formula/labels.h"
 #include "numeric/text.h"
-#include "store/connection.h"
-#include "store/store_files.h"
-#include "support/temp_folder.h"
+#include "support/main_store.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 using Row = std::vector<std::string>;
 
@@ -23,42 +20,28 @@ constexpr double kSheetScale = 5500 / 9495.0;  // component sheet to drawing, in
 constexpr double kStub = 186;                  // twips that a mark's end sticks out, at any scale
 
 /// The new store of a workshop, made once for all tests.
-class StarterLibraryTest : public testing::Test {
-  protected:
-    static void SetUpTestSuite() {
-        folder_ = std::make_unique<test::TempFolder>();
-        CreateMissingStores(folder_->Path());
-        store_ = std::make_unique<Connection>(*folder_ / kMainStoreName, StoreKind::Main);
+Connection& Store() {
+    static const TempFolder folder;
+    static Connection store = [] {
+        CreateMissingStores(folder.Path());
+        return Connection(folder / kMainStoreName, StoreKind::Main);
+    }();
+    return store;
+}
+
+std::vector<Row> Select(const std::string& sql) {
+    std::vector<Row> rows;
+    for (Cursor cursor = Store().OpenCursor("Select " + sql); !cursor.Eof(); cursor.MoveNext()) {
+        Row& row = rows.emplace_back();
+        for (int i = 0; i < cursor.FieldCount(); ++i) row.push_back(cursor.Field(i).TextOrEmpty());
     }
-    static void TearDownTestSuite() {
-        store_.reset();
-        folder_.reset();
-    }
+    return rows;
+}
 
-    static std::vector<Row> Select(const std::string& sql) {
-        std::vector<Row> rows;
-        for (Cursor cursor = store_->OpenCursor("Select " + sql); !cursor.Eof(); cursor.MoveNext()) {
-            Row& row = rows.emplace_back();
-            for (int i = 0; i < cursor.FieldCount(); ++i) row.push_back(cursor.Field(i).TextOrEmpty());
-        }
-        return rows;
-    }
-
-    static std::set<std::string> Column(const std::string& sql) {
-        std::set<std::string> values;
-        for (const Row& row : Select(sql)) values.insert(row[0]);
-        return values;
-    }
-
-    static std::unique_ptr<test::TempFolder> folder_;
-    static std::unique_ptr<Connection> store_;
-};
-
-std::unique_ptr<test::TempFolder> StarterLibraryTest::folder_;
-std::unique_ptr<Connection> StarterLibraryTest::store_;
-
-bool EndsWith(std::string_view text, std::string_view end) {
-    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
+std::set<std::string> Column(const std::string& sql) {
+    std::set<std::string> values;
+    for (const Row& row : Select(sql)) values.insert(row[0]);
+    return values;
 }
 
 /// Names that a formula uses, in capitals.
@@ -75,8 +58,7 @@ std::set<std::string> NamesIn(const std::string& formula) {
 class Sizes {
   public:
     void Add(const std::string& name, double value) {
-        names_.insert(*NamesIn(name).begin());
-        values_[name] = value;
+        values_[UpperCase(name)] = value;
         labels_.names.push_back(name);
         labels_.values.push_back(std::to_string(value));
         labels_.px.push_back(0);
@@ -86,44 +68,26 @@ class Sizes {
     void Sort() { SortLabelsByLength(labels_.names, labels_.values, labels_.px, labels_.py, labels_.last); }
 
     double operator[](const std::string& name) const { return values_.at(name); }
-    std::size_t Count() const { return names_.size(); }
+    std::size_t Count() const { return values_.size(); }
 
     /// The value of a formula, which must use no name but the labels.
     double Value(const std::string& formula) const {
-        for (const std::string& name : NamesIn(formula)) {
-            EXPECT_TRUE(names_.contains(name)) << formula;
-        }
+        for (const std::string& name : NamesIn(formula)) EXPECT_TRUE(values_.contains(name)) << formula;
         return EvalWithLabels(formula, labels_);
     }
 
   private:
     LabelSet labels_;
-    std::map<std::string, double> values_;
-    std::set<std::string> names_;
+    std::map<std::string, double> values_;  // by names in capitals
 };
 
-TEST_F(StarterLibraryTest, CatalogueHasSoundPricesAndDensities) {
+TEST(StarterLibrary, EveryRowNamesOneMaterialOfARichCatalogue) {
     const std::vector<Row> series = Select("编号 from 型材系列");
     EXPECT_GE(series.size(), 3U);
     for (const Row& row : series) EXPECT_GE(Select("* from 型材 where 系列编号=" + row[0]).size(), 12U);
     EXPECT_GE(Select("* from 型钢").size(), 8U);
     EXPECT_GE(Select("* from 玻璃").size(), 8U);
     EXPECT_GE(Select("* from 配件").size(), 20U);
-    for (const Row& row : Select("型材型号,型材长度,型材线密度,型材吨价格 from 型材")) {
-        EXPECT_EQ(row[1], "6000") << row[0];
-        EXPECT_TRUE(std::stod(row[2]) > 0.3 && std::stod(row[2]) < 1.5) << row[0];
-        EXPECT_TRUE(std::stod(row[3]) >= 9000 && std::stod(row[3]) <= 12000) << row[0];
-    }
-    for (const Row& row : Select("型钢规格,型钢吨价格 from 型钢")) {
-        EXPECT_TRUE(std::stod(row[1]) >= 4500 && std::stod(row[1]) <= 6000) << row[0];
-    }
-    for (const Row& row : Select("玻璃名称,玻璃平方单价 from 玻璃")) {
-        EXPECT_TRUE(std::stod(row[1]) >= 45 && std::stod(row[1]) <= 180) << row[0];
-    }
-    for (const Row& row : Select("配件规格,配件单价 from 配件")) EXPECT_GT(std::stod(row[1]), 0) << row[0];
-}
-
-TEST_F(StarterLibraryTest, EveryRowNamesOneCatalogueMaterial) {
     const std::string links[][2] = {{"规格 from 窗型材", "型材型号 from 型材"},
                                     {"规格 from 窗型钢", "型钢规格 from 型钢"},
                                     {"名称 from 窗板材", "玻璃名称 from 玻璃"},
@@ -136,7 +100,7 @@ TEST_F(StarterLibraryTest, EveryRowNamesOneCatalogueMaterial) {
 }
 
 /// Cuts every type at the sample's size and at a smaller one.
-TEST_F(StarterLibraryTest, EveryWindowTypeClosesAndIsGlazedWithinItsOpening) {
+TEST(StarterLibrary, EveryWindowTypeClosesAndIsGlazedWithinItsOpening) {
     const std::vector<Row> types = Select("编号,名称,图号 from 门窗");
     EXPECT_GE(types.size(), 24U);
     EXPECT_EQ(Column("图号 from 门窗").size(), types.size()) << "a drawing each";
@@ -157,23 +121,21 @@ TEST_F(StarterLibraryTest, EveryWindowTypeClosesAndIsGlazedWithinItsOpening) {
 
             double frames = 0;
             double joints = 0;
-            for (const Row& row : Select("名称,数量,计算公式 from 窗型材" + rowsOf)) {
+            const std::string bars = "名称,数量,计算公式 from ";
+            std::vector<Row> cut = Select(bars + "窗型材" + rowsOf);
+            for (Row& steel : Select(bars + "窗型钢" + rowsOf)) cut.push_back(std::move(steel));
+            for (const Row& row : cut) {
                 const double length = sizes.Value(row[2]);
                 const double count = sizes.Value(row[1]);
                 EXPECT_TRUE(length > 50 && length < kBarLength) << row[0] << " " << length;
                 EXPECT_GE(count, 1) << row[0];
-                if (EndsWith(row[0], "框B") || EndsWith(row[0], "框H")) frames += count * length;
+                if (row[0].ends_with("框B") || row[0].ends_with("框H")) frames += count * length;
                 if (row[0] == "拼条" || row[0] == "转角柱") joints += count * length;
             }
             // Frames go once round the opening and on both sides of a joint. Welding adds 6 a piece, a post
             // takes 60 off each of its two frames.
             EXPECT_NEAR(frames, 2 * (sizes["B"] + sizes["H"]) + 2 * joints, 180);
 
-            for (const Row& row : Select("名称,数量,计算公式 from 窗型钢" + rowsOf)) {
-                const double length = sizes.Value(row[2]);
-                EXPECT_TRUE(length > 50 && length < kBarLength) << row[0] << " " << length;
-                EXPECT_GE(sizes.Value(row[1]), 1) << row[0];
-            }
             double area = 0;
             for (const Row& row : Select("名称,数量,长公式,宽公式 from 窗板材" + rowsOf)) {
                 const double length = sizes.Value(row[2]);
@@ -192,7 +154,7 @@ TEST_F(StarterLibraryTest, EveryWindowTypeClosesAndIsGlazedWithinItsOpening) {
 /// Worked by hand: a two-leaf slider of 1500 x 1400 has a clear width of 1400; with 8 on the frame at each
 /// side and 72 at the interlock the two leaves span 1488, so a leaf is 744 wide and its bar 6 longer. Its
 /// glass is 744 - 2*72 visible and 15 more at each edge. The leaf's height is 1300 + 16.
-TEST_F(StarterLibraryTest, SlidingLeafFollowsItsInterlock) {
+TEST(StarterLibrary, SlidingLeafFollowsItsInterlock) {
     Sizes sizes;
     sizes.Add("B", 1500);
     sizes.Add("H", 1400);
@@ -215,11 +177,11 @@ double Span(const std::string& from, const std::string& to) {
 
 /// A drawing and the formulas tell of one window, so each is a check on the other: every label has a mark as
 /// long as its value, and every panel, less what its rebate hides, is seen as a rectangle.
-TEST_F(StarterLibraryTest, DrawingsAreTrueToScaleAndShowThePanelsThatAreCut) {
+TEST(StarterLibrary, DrawingsAreTrueToScaleAndShowThePanelsThatAreCut) {
     for (const Row& window : Select("编号,门窗编号,洞口宽,门窗名称 from 工程门窗")) {
         SCOPED_TRACE(window[3]);
         const std::string ofDrawing = " where Bn=" + Select("图号 from 门窗 where 编号=" + window[1])[0][0];
-        const LabelSet labels = LoadPlainLabels(*store_, window[0]);
+        const LabelSet labels = LoadPlainLabels(Store(), window[0]);
         std::vector<double> values;
         for (const std::string& value : labels.values) values.push_back(std::stod(value));
 
@@ -251,17 +213,16 @@ TEST_F(StarterLibraryTest, DrawingsAreTrueToScaleAndShowThePanelsThatAreCut) {
     }
 }
 
-TEST_F(StarterLibraryTest, SampleProjectIsComplete) {
+TEST(StarterLibrary, SampleProjectIsComplete) {
     const std::vector<Row> project = Select("编号 from 工程 where 工程名称='示例工程'");
     ASSERT_EQ(project.size(), 1U);
     const std::vector<Row> contract = Select("* from 工程合同 where HTBN=" + project[0][0]);
     ASSERT_EQ(contract.size(), 1U);
-    for (const std::string& field : contract[0]) EXPECT_FALSE(field.empty());
+    EXPECT_EQ(std::count(contract[0].begin(), contract[0].end(), ""), 0);
 
     const std::vector<Row> windows =
         Select("编号,门窗编号,洞口宽,洞口高,门窗名称 from 工程门窗 where 工程编号=" + project[0][0]);
     EXPECT_GE(windows.size(), 12U);
-    std::set<std::string> specs;
     for (const Row& window : windows) {
         SCOPED_TRACE(window[4]);
         const auto type = Select("图号,名称 from 门窗 where 编号=" + window[1]);
@@ -274,16 +235,11 @@ TEST_F(StarterLibraryTest, SampleProjectIsComplete) {
         std::map<std::string, std::string> values;
         for (std::size_t i = 0; i < drawn.size(); ++i) {
             EXPECT_EQ(drawn[i], Row(labels[i].begin(), labels[i].begin() + 3));
-            EXPECT_LE(CharCount(labels[i][0]), 5U);
-            EXPECT_GT(std::stod(labels[i][3]), 0);
             values[labels[i][0]] = labels[i][3];
         }
         EXPECT_EQ(values["B"], window[2]);
         EXPECT_EQ(values["H"], window[3]);
-        specs.merge(Column("规格 from 窗型材 where 窗号=" + window[1]));
     }
-    EXPECT_GE(specs.size(), 6U);
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

@@ -1,93 +1,15 @@
-// Tests of what all screens share: filters, number boxes, lists, guards, the base of the screens.
-
-#include <gtest/gtest.h>
-
-#include <QComboBox>
-#include <QLineEdit>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QWheelEvent>
+// Tests of what all screens share: guards, the base of the screens.
 
 #include "platform/error.h"
 #include "support/screens/screen_kit.h"
-#include "ui/digit_filter.h"
-#include "ui/file_filter.h"
 #include "ui/guard.h"
 #include "ui/main_frame.h"
-#include "ui/report_list.h"
 #include "ui/screen.h"
 
-namespace kalvane {
-namespace {
-
-TEST(FileFilter, IsPutInTheToolkitsForm) {
-    struct Case {
-        const char* given;
-        const char* expected;
-    };
-    const Case cases[] = {
-        {"所有文件|*.*|BMP|*.bmp", "所有文件 (*);;BMP (*.bmp)"},
-        {"图形文件(*.MC)|*.MC", "图形文件 (*.MC)"},
-        {"图片|*.bmp; *.jpg", "图片 (*.bmp *.jpg)"},
-        {"数据文件", "数据文件 (*)"},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(ToToolkitFilter(QString::fromUtf8(c.given)), QString::fromUtf8(c.expected)) << c.given;
-    }
-}
-
-TEST(DigitFilter, FullWidthDigitsCountAsDigits) {
-    QLineEdit box;
-    box.setValidator(new DigitFilter(&box));
-    QInputMethodEvent typed;
-    typed.setCommitString(QStringLiteral("－１２。５０"));
-    QApplication::sendEvent(&box, &typed);
-    EXPECT_EQ(box.text(), QStringLiteral("-12.50"));
-    box.insert(QStringLiteral("九x"));  // refuses nothing
-    EXPECT_EQ(box.text(), QStringLiteral("-12.50九x"));
-}
-
-TEST(WheelGuard, AnUnfocusedComboKeepsItsValue) {
-    QWidget window;
-    QComboBox combo(&window);
-    QLineEdit other(&window);
-    combo.addItems({QStringLiteral("a"), QStringLiteral("b")});
-    other.move(200, 0);
-    window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    const auto turnWheel = [&combo] {
-        QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
-                          false);
-        QApplication::sendEvent(&combo, &wheel);
-        return combo.currentIndex();
-    };
-    other.setFocus();
-    EXPECT_EQ(turnWheel(), 0);
-    combo.setFocus();
-    EXPECT_EQ(turnWheel(), 1);
-}
-
-TEST(ReportList, RowsAndSelection) {
-    ReportList list(QStringLiteral("Lvw"), {QStringLiteral("名称"), QStringLiteral("规格")});
-    EXPECT_EQ(list.SelectedRow(), -1);
-    for (const char* name : {"a", "b", "c"}) {
-        list.AddRow({QLatin1String(name), QStringLiteral("60")}, QLatin1String(name) + QStringLiteral("!"));
-    }
-    EXPECT_EQ(list.SelectedRow(), -1) << "nothing is selected before the operator selects";
-    list.SetText(1, 1, QStringLiteral("80"));
-    EXPECT_EQ(list.Row(1), QStringList({QStringLiteral("b"), QStringLiteral("80")}));
-    list.SelectRow(1);
-    list.RemoveRow(0);
-    EXPECT_EQ(list.SelectedRow(), 0);
-    EXPECT_EQ(list.Tag(0), QStringLiteral("b!"));
-    list.RemoveRow(0);
-    EXPECT_EQ(list.SelectedRow(), 0) << "the selection goes to the row after";
-    list.RemoveRow(0);
-    EXPECT_EQ(list.SelectedRow(), -1);
-}
+namespace kalvane::test {
 
 TEST(Guard, AFailureIsToldAlsoWhenTheScreenIsGone) {
-    test::ScriptedDialogs dialogs;
+    ScriptedDialogs dialogs;
     auto* screen = new QWidget;
     const bool well = Guarded(screen, [screen] {
         delete screen;
@@ -97,17 +19,26 @@ TEST(Guard, AFailureIsToldAlsoWhenTheScreenIsGone) {
     EXPECT_EQ(dialogs.shown, QStringList(QStringLiteral("|坏了")));
 }
 
-class ScreenBaseTest : public test::ScreenTest {
+class ScreenBaseTest : public ScreenTest {
   protected:
-    static Screen* NewScreen() {
-        auto* screen = new Screen(QStringLiteral("frmProbe"), QStringLiteral("探针"), nullptr);
+    Screen* NewScreen() {
+        auto* screen = last_ = new Screen(QStringLiteral("frmProbe"), QStringLiteral("探针"), nullptr);
         screen->resize(300, 200);
+        screen->ShowModeless();
         return screen;
     }
     static void Settle() {
         QApplication::processEvents();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+    QWidget* LastWindow(const QMdiArea* frame) { return frame != nullptr ? last_->parentWidget() : last_; }
+    void CloseLast() {
+        Settle();
+        last_->close();
+        Settle();
+    }
+
+    Screen* last_ = nullptr;
 };
 
 TEST_F(ScreenBaseTest, AChildOfTheFrameClosesWithItsWindowAndDeletesItself) {
@@ -117,7 +48,6 @@ TEST_F(ScreenBaseTest, AChildOfTheFrameClosesWithItsWindowAndDeletesItself) {
     area.show();
     for (const bool byFrame : {true, false}) {
         QPointer<Screen> screen = NewScreen();
-        screen->ShowModeless();
         ASSERT_EQ(area.subWindowList().size(), 1);
         EXPECT_TRUE(ActivateScreen(QStringLiteral("frmProbe")));
         EXPECT_FALSE(ActivateScreen(QStringLiteral("frmOther")));
@@ -139,34 +69,16 @@ TEST_F(ScreenBaseTest, SizeIsRememberedInTheFrameAndOutsideIt) {
     area.show();
     for (QMdiArea* frame : {&area, static_cast<QMdiArea*>(nullptr)}) {
         SetMainFrame(frame);
-        Screen* first = NewScreen();
-        first->ShowModeless();
-        EXPECT_EQ(first->size(), QSize(300, 200)) << "its own size, the first time";
-        QWidget* window = frame != nullptr ? first->parentWidget() : first;
-        window->setGeometry(40, 50, 420, 310);
+        EXPECT_EQ(NewScreen()->size(), QSize(300, 200)) << "its own size, the first time";
+        LastWindow(frame)->setGeometry(40, 50, 420, 310);
+        CloseLast();
+        NewScreen();
         Settle();
-        first->close();
-        Settle();
-        Screen* second = NewScreen();
-        second->ShowModeless();
-        Settle();
-        window = frame != nullptr ? second->parentWidget() : second;
-        EXPECT_EQ(window->geometry(), QRect(40, 50, 420, 310)) << (frame != nullptr);
-        window->showMaximized();
-        Settle();
-        second->close();
-        Settle();
-        Screen* third = NewScreen();
-        third->ShowModeless();
-        Settle();
-        window = frame != nullptr ? third->parentWidget() : third;
-        EXPECT_TRUE(window->isMaximized()) << (frame != nullptr);
-        third->close();
-        Settle();
+        EXPECT_EQ(LastWindow(frame)->geometry(), QRect(40, 50, 420, 310)) << (frame != nullptr);
+        CloseLast();
         settings_ = SettingsStore(folder_ / "forgotten");
     }
     SetMainFrame(nullptr);
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

@@ -2,20 +2,12 @@
 
 #include "ui/dialogs.h"
 
-#include <gtest/gtest.h>
-
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-
 #include "platform/files.h"
 #include "support/screens/screen_kit.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
-class DialogsTest : public test::ScreenTest {
+class DialogsTest : public ScreenTest {
   protected:
     void SetUp() override {
         ScreenTest::SetUp();
@@ -23,10 +15,7 @@ class DialogsTest : public test::ScreenTest {
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     }
 
-    QString InFolder(const std::string& name) const {
-        return QString::fromStdString((folder_ / name).string());
-    }
-    static test::ModalScript::Work Press(QMessageBox::StandardButton button, const QString& caption) {
+    static ModalScript::Work Press(QMessageBox::StandardButton button, const QString& caption) {
         return [button, caption](QDialog& screen) {
             auto* box = qobject_cast<QMessageBox*>(&screen);
             ASSERT_NE(box, nullptr);
@@ -35,31 +24,30 @@ class DialogsTest : public test::ScreenTest {
             box->button(button)->click();
         };
     }
-    static test::ModalScript::Work Choose(const QString& file) {
+    static ModalScript::Work Choose(const QString& file) {
         return [file](QDialog& screen) {
             auto* dialog = qobject_cast<QFileDialog*>(&screen);
             ASSERT_NE(dialog, nullptr);
-            test::Find<QLineEdit>(dialog, "fileNameEdit")->setText(file);
+            Find<QLineEdit>(dialog, "fileNameEdit")->setText(file);
             QMetaObject::invokeMethod(dialog, "accept");
         };
     }
 };
 
-TEST_F(DialogsTest, QuestionsAreAskedInChinese) {
-    struct Case {
+TEST_F(DialogsTest, QuestionsAreAskedInChineseAndTextsShownPlainly) {
+    const struct {
         bool yesNo;
         QMessageBox::StandardButton press;
         const char* caption;
         bool answer;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {true, QMessageBox::Yes, "是", true},
         {true, QMessageBox::No, "否", false},
         {false, QMessageBox::Ok, "确定", true},
         {false, QMessageBox::Cancel, "取消", false},
     };
-    for (const Case& c : cases) {
-        test::ModalScript().On("", Press(c.press, QString::fromUtf8(c.caption))).Run([&] {
+    for (const auto& c : cases) {
+        ModalScript().On("", Press(c.press, QString::fromUtf8(c.caption))).Run([&] {
             const QString text = QStringLiteral("<b>真的吗？");
             EXPECT_EQ(c.yesNo ? UseDialogs().AskYesNo(nullptr, text, QStringLiteral("提示"))
                               : UseDialogs().AskOkCancel(nullptr, text, QStringLiteral("提示")),
@@ -67,10 +55,7 @@ TEST_F(DialogsTest, QuestionsAreAskedInChinese) {
                 << c.caption;
         });
     }
-}
-
-TEST_F(DialogsTest, AMessageShowsItsTextPlainly) {
-    test::ModalScript()
+    ModalScript()
         .On("",
             [](QDialog& screen) {
                 auto* box = qobject_cast<QMessageBox*>(&screen);
@@ -85,33 +70,29 @@ TEST_F(DialogsTest, SavingAsksBeforeItOverwritesAndRemembersTheFolder) {
     std::filesystem::create_directory(folder_ / "plans");
     WriteFileAtomically(folder_ / "plans/old.DDD", "old");
     const QString filter = QStringLiteral("需求文件|*.DDD");
-    QString chosen;
-    test::ModalScript()
+    const QString plan = QStringLiteral("plan");
+    const auto save = [&](bool asks) {
+        return UseDialogs().SaveFileName(nullptr, plan, filter, QStringLiteral("DDD"), asks);
+    };
+    ModalScript()
         .On("QFileDialog", Choose(InFolder("plans/old")))
         .On("", Press(QMessageBox::No, QStringLiteral("否")))
         .On("QFileDialog", Choose(InFolder("plans/new")))
-        .Run([&] {
-            chosen = UseDialogs().SaveFileName(nullptr, QStringLiteral("plan"), filter, QStringLiteral("DDD"),
-                                               true);
-        });
-    EXPECT_EQ(chosen, InFolder("plans/new.DDD"));
-    test::ModalScript().On("QFileDialog", Choose(InFolder("plans/old.DDD"))).Run([&] {
-        chosen =
-            UseDialogs().SaveFileName(nullptr, QStringLiteral("plan"), filter, QStringLiteral("DDD"), false);
+        .Run([&] { EXPECT_EQ(save(true), InFolder("plans/new.DDD")); });
+    ModalScript().On("QFileDialog", Choose(InFolder("plans/old.DDD"))).Run([&] {
+        EXPECT_EQ(save(false), InFolder("plans/old.DDD"));
     });
-    EXPECT_EQ(chosen, InFolder("plans/old.DDD"));
 
     const auto folderOffered = [&](const QString& purpose) {
         QString folder;
-        test::ModalScript()
+        ModalScript()
             .On("QFileDialog",
                 [&](QDialog& screen) { folder = qobject_cast<QFileDialog*>(&screen)->directory().path(); })
             .Run([&] { EXPECT_EQ(UseDialogs().OpenFileName(nullptr, purpose, filter), QString()); });
         return folder;
     };
-    EXPECT_EQ(folderOffered(QStringLiteral("plan")), InFolder("plans"));
+    EXPECT_EQ(folderOffered(plan), InFolder("plans"));
     EXPECT_EQ(folderOffered(QStringLiteral("picture")), QString::fromStdString(folder_.Path().string()));
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

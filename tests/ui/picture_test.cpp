@@ -1,17 +1,10 @@
-#include <gtest/gtest.h>
-
-#include <QBuffer>
-#include <QPainter>
-#include <QPdfWriter>
-
 #include "drawing/recorders.h"
 #include "platform/files.h"
 #include "support/temp_folder.h"
 #include "ui/picture_box.h"
 #include "ui/window_picture.h"
 
-namespace kalvane {
-namespace {
+namespace kalvane::test {
 
 /// Pixels of a rectangle that are not white, or that are red rather than grey.
 int Ink(const QImage& image, QRect part, bool redOnly = false) {
@@ -27,17 +20,16 @@ int Ink(const QImage& image, QRect part, bool redOnly = false) {
     return count;
 }
 
-TEST(WindowPicture, ImageShowsStrokesAndValuesInTheFramesShape) {
+TEST(WindowPicture, ImageAndPdfShowStrokesAndValuesInTheFramesShape) {
     RecordingNotice notice;
     CPictire drawing(notice);
     drawing.AddLine({{0, 0}, {9495, 0}});
     drawing.AddLine({{4747.5F, 0}, {4747.5F, 7935}});
     drawing.AddString({{200, 2000}, "名称"});  // label names are not painted
     MCPicture picture(notice);
-    const test::TempFolder folder;
-    const std::filesystem::path file = folder / "a.MC";
-    drawing.SavePicture(file);
-    picture.OpenFileMC(file);
+    const TempFolder folder;
+    drawing.SavePicture(folder / "a.MC");
+    picture.OpenFileMC(folder / "a.MC");
 
     // 1000 wide leaves 940 for the frame less its margins, but 529 high only 94 %: scale 0.94 / 15, so the
     // frame is 595 by 497 and starts at (202, 15); its middle is at x = 202 + 297.
@@ -52,50 +44,25 @@ TEST(WindowPicture, ImageShowsStrokesAndValuesInTheFramesShape) {
     EXPECT_GT(Ink(image, {264, 265, 40, 18}), 20);
     EXPECT_EQ(Ink(image, {203, 17, 290, 248}), 0);
     EXPECT_EQ(Ink(image, {203, 285, 290, 200}), 0);
-}
 
-TEST(WindowPicture, PdfIsOnePageWithItsFontsEmbedded) {
-    RecordingNotice notice;
-    const MCPicture picture(notice);
-    const test::TempFolder folder;
-    const std::filesystem::path file = folder / "窗.pdf";
-    const WindowLabel labels[] = {{1000, 4000, "1500"}};
-    WriteWindowPicturePdf(file, "推拉窗", picture, labels);
-    const std::string bytes = ReadFile(file);
+    WriteWindowPicturePdf(folder / "窗.pdf", "推拉窗", picture, labels);
+    const std::string bytes = ReadFile(folder / "窗.pdf");
     EXPECT_EQ(bytes.substr(0, 5), "%PDF-");
-    EXPECT_NE(bytes.find("/Count 1\n"), std::string::npos);
-    EXPECT_NE(bytes.find("/FontFile"), std::string::npos);
-}
-
-TEST(PainterTarget, TextHasTheSameSizeOnEveryDevice) {
-    QImage image(10, 10, QImage::Format_RGB32);
-    QPainter imagePainter(&image);
-    const PainterTarget screen(imagePainter, 1.0 / kTwipsPerPixel, PainterTarget::Medium::Screen);
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    QPainter pagePainter(&writer);
-    PainterTarget page(pagePainter, writer);
-    const float height = page.TextHeight("国");
-    EXPECT_NEAR(screen.TextHeight("国"), height, 0.03F * height);
-    EXPECT_NEAR(screen.TextWidth("推拉窗"), 3 * 180, 5);  // a Chinese character of 9 points is 180 wide
-    EXPECT_NEAR(page.TextWidth("推拉窗"), 3 * 180, 5);
+    EXPECT_NE(bytes.find("/Count 1\n"), std::string::npos) << "one page";
+    EXPECT_NE(bytes.find("/FontFile"), std::string::npos) << "its fonts embedded";
 }
 
 TEST(PictureBox, KeepsThePersistentLayerUnderTheTransientOne) {
     PictureBox box(QStringLiteral("PicMC"));
     box.resize(300, 200);
     int runs = 0;
-    Box seen;
     box.SetPersistent([&](PainterTarget& target, Box inner) {
         ++runs;
-        seen = inner;
         target.DrawLine(0, 1500, inner.x2, 1500);  // at pixel 100
     });
     const auto row = [&](int y) { return Ink(box.grab().toImage(), {50, y, 200, 3}); };
     const int line = box.contentsRect().top() + 99;
     EXPECT_EQ(row(line), 200);
-    EXPECT_EQ(seen.x2, static_cast<float>(box.contentsRect().width()) * 15);
 
     const WindowLabel labels[] = {{0, 0, "国国国"}, {0, 7000, "国国国"}};
     box.SetTransient([&](PainterTarget& target, Box inner) { PaintLabelValues(target, labels, inner, 1); });
@@ -106,7 +73,6 @@ TEST(PictureBox, KeepsThePersistentLayerUnderTheTransientOne) {
     EXPECT_EQ(runs, 1);  // not painted again for the transient layer
 
     box.SetTransient({});
-    EXPECT_EQ(row(box.contentsRect().top() + 20), 0);
     box.resize(400, 250);
     box.grab();
     EXPECT_EQ(runs, 2);
@@ -114,5 +80,4 @@ TEST(PictureBox, KeepsThePersistentLayerUnderTheTransientOne) {
     EXPECT_EQ(row(line), 0);
 }
 
-}  // namespace
-}  // namespace kalvane
+}  // namespace kalvane::test

@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QDialog>
-#include <QTimer>
+#include <QtTest>
+#include <QtWidgets>
 #include <deque>
 #include <filesystem>
 #include <functional>
@@ -16,6 +15,7 @@
 #include "store/field_slots.h"
 #include "store/store_files.h"
 #include "support/screens/scripted_dialogs.h"
+#include "support/store_rows.h"
 #include "support/temp_folder.h"
 
 namespace kalvane::test {
@@ -29,6 +29,16 @@ Control* Find(const QWidget* screen, const char* name) {
         std::abort();
     }
     return control;
+}
+
+inline void Press(const QWidget& screen, const char* button) {
+    Find<QPushButton>(&screen, button)->click();
+}
+inline QString TextIn(const QWidget& screen, const char* box) {
+    return Find<QLineEdit>(&screen, box)->text();
+}
+inline void SetText(const QWidget& screen, const char* box, const char* text) {
+    Find<QLineEdit>(&screen, box)->setText(QString::fromUtf8(text));
 }
 
 /// What the operator does at modal screens: one step for each screen that comes up, told by its name, in
@@ -111,6 +121,11 @@ class ScreenTest : public testing::Test {
     void TearDown() override {
         App() = AppState();
         SharedFieldSlots() = FieldSlots();
+    }
+
+    static std::string Rows(const std::string& sql) { return test::Rows(App().Main(), sql); }
+    QString InFolder(const std::string& name) const {
+        return QString::fromStdString((folder_ / name).string());
     }
 
     const TempFolder folder_;
