@@ -116,7 +116,7 @@ void FolderCommands::Expand(const std::string& project) const {
     LineNotice notice;
     for (const WindowEntry& entry : ListWindows(store.Get(), ProjectNumber(store.Get(), project))) {
         const BillSink print = [&](const BillRow& row) {
-            PrintRow({entry.name, ClassName(row.materialClass), row.name, row.spec, row.length, row.width,
+            PrintRow({entry.name, ClassName(row.materialClass), row.name, row.code, row.length, row.width,
                       row.quantity, row.unit});
         };
         const WindowToExpand window{entry.number, entry.typeNumber, entry.count};

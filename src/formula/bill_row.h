@@ -11,7 +11,7 @@ enum class MaterialClass { Profile, Steel, Fitting, Panel };
 struct BillRow {
     MaterialClass materialClass = MaterialClass::Profile;
     std::string name;      ///< 名称
-    std::string spec;      ///< 规格; a panel has none
+    std::string code;      ///< 规格, the material code; a panel has none
     std::string length;    ///< 长度 in mm, for a panel 长; a fitting has none
     std::string width;     ///< 宽 in mm of a panel
     std::string quantity;  ///< 数量

@@ -43,7 +43,7 @@ class TypeExpansion {
             BillRow bill;
             bill.materialClass = materialClass;
             bill.name = row.Field("名称").Text();
-            bill.spec = row.Field("规格").Text();
+            bill.code = row.Field("规格").Text();
             bill.length = ShortText(Evaluate(row.Field("计算公式")));
             const double quantity = static_cast<double>(std::floor(Evaluate(row.Field("数量"))));
             bill.quantity = ShortText(quantity * Val(multiplier_.pieces));
@@ -56,7 +56,7 @@ class TypeExpansion {
             BillRow bill;
             bill.materialClass = MaterialClass::Fitting;
             bill.name = row.Field("名称").Text();
-            bill.spec = row.Field("规格").Text();
+            bill.code = row.Field("规格").Text();
             bill.unit = row.Field("单位").Text();
             const std::int16_t each = RoundToInt16(Val(ShortText(Evaluate(row.Field("数量")))));
             bill.quantity = ShortText(each * Val(multiplier_.fittingPieces));

@@ -33,7 +33,7 @@ class ExpansionTest : public MainStoreTest {
 
     static BillSink Collect(std::string& text) {
         return [&text](const BillRow& row) {
-            text += row.name + "|" + row.spec + "|" + row.length + "|" + row.width + "|" + row.quantity +
+            text += row.name + "|" + row.code + "|" + row.length + "|" + row.width + "|" + row.quantity +
                     "|" + row.unit + "\n";
         };
     }
