@@ -152,6 +152,10 @@ float Cal::CalExpress(std::string_view formula) {
     if (IsTooLong(formula)) {
         throw FormulaError("公式超过 " + std::to_string(kMostCharacters) + " 个字符，无法计算。");
     }
+    // The quantity of most rows is a bare number. With nothing left over it is its own value.
+    if (!formula.empty() && workStack_.IsEmpty() && IsShortWholeNumber(formula)) {
+        return lastResult_ = static_cast<float>(CalToken(formula).Value());
+    }
     std::string text = FoldFunctions(UpperCase(formula));
     std::erase(text, ' ');  // a blank ends nothing, not even a number
     text += ')';

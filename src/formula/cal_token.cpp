@@ -14,14 +14,13 @@ bool IsAtLeastOne(std::string_view number) {
     return digit < number.size() && number[digit] != '.';
 }
 
-/// Digits alone, few enough that a 64-bit float holds them exactly: most numbers of a formula.
+}  // namespace
+
 bool IsShortWholeNumber(std::string_view text) {
     constexpr std::size_t kExactDigits = 15;
     const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
     return text.size() <= kExactDigits && std::all_of(text.begin(), text.end(), isDigit);
 }
-
-}  // namespace
 
 CalToken::CalToken(std::string_view text) : kind_(kNeither), value_(0) {
     if (text.empty()) {

@@ -36,4 +36,8 @@ class CalToken {
     double value_;
 };
 
+/// Digits alone, few enough that a 64-bit float holds them exactly: most numbers of a formula, and many whole
+/// formulas.
+bool IsShortWholeNumber(std::string_view text);
+
 }  // namespace kalvane
