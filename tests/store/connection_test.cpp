@@ -108,6 +108,7 @@ TEST_F(StoreTest, ConvertsByTheColumnsType) {
                   row.stored == nullptr ? "" : row.stored)
             << row.value;
     }
+    EXPECT_EQ(Refusal("Insert into 标注 (MC) values('上亮窗扇高')"), "");  // five characters, not five bytes
     // A 32-bit float is kept as one and reads back with seven digits.
     store_->Execute("Insert into 优化结果 (材料名称,优化比率) values('甲',0.926666666666667)");
     EXPECT_EQ(Rows("Select 优化比率 from 优化结果"), "0.9266667");
