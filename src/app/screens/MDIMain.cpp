@@ -23,6 +23,7 @@
 #include "optimise/screens/PYH02.h"
 #include "platform/assertion.h"
 #include "platform/settings_store.h"
+#include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
 #include "ui/main_frame.h"
@@ -238,7 +239,7 @@ QAction* MDIMain::MakeAction(const QString& name, const Entry& entry) {
     action->setObjectName(name);
     if (!entry.open) {
         action->setEnabled(false);
-        action->setToolTip(QStringLiteral("此功能将在后续版本中提供。"));
+        action->setToolTip(ComingToolTip());
         return action;
     }
     OnSignal(action, &QAction::triggered, this, [this, open = entry.open] { open(*this); });

@@ -12,6 +12,7 @@
 #include "app/app_state.h"
 #include "app/login.h"
 #include "app/startup.h"
+#include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
 #include "ui/message_notice.h"
@@ -41,15 +42,9 @@ frmLogin::frmLogin(QWidget* parent)
     fields->addRow(QStringLiteral("用户名："), cboUsrNm_);
     fields->addRow(QStringLiteral("密　码："), txtPassword_);
 
-    auto* cmdOK = new QPushButton(QStringLiteral("确定"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    QPushButton* cmdOK = MakeButton("cmdOK", QStringLiteral("确定"), this);
     cmdOK->setDefault(true);
-    auto* cmdCancel = new QPushButton(QStringLiteral("取消"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(cmdOK);
-    buttons->addWidget(cmdCancel);
+    QPushButton* cmdCancel = MakeButton("cmdCancel", QStringLiteral("取消"), this);
 
     auto* top = new QHBoxLayout;
     top->setSpacing(24);
@@ -59,7 +54,7 @@ frmLogin::frmLogin(QWidget* parent)
     rows->setContentsMargins(24, 24, 24, 18);
     rows->setSpacing(20);
     rows->addLayout(top);
-    rows->addLayout(buttons);
+    rows->addLayout(ButtonRow({cmdOK, cmdCancel}));
     rows->setSizeConstraint(QLayout::SetFixedSize);
 
     OnSignal(cmdOK, &QPushButton::clicked, this, [this] { LogIn(); });

@@ -1,12 +1,11 @@
 #include "optimise/screens/frmCreate01.h"
 
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "app/app_state.h"
 #include "optimise/screens/frmCreate02.h"
 #include "project/project_list.h"
-#include "project/screens/command_buttons.h"
+#include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
 #include "ui/report_list.h"

@@ -1,13 +1,12 @@
 #include "optimise/screens/frmCreate02.h"
 
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "app/app_state.h"
 #include "optimise/demand.h"
 #include "optimise/screens/frmCreate03.h"
 #include "optimise/screens/pick_lists.h"
-#include "project/screens/command_buttons.h"
+#include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
 #include "ui/report_list.h"

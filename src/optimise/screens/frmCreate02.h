@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "project/screens/entry_screen.h"
+#include "ui/entry_screen.h"
 
 namespace kalvane {
 

@@ -3,13 +3,12 @@
 #include <QApplication>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "app/app_state.h"
 #include "optimise/run.h"
 #include "optimise/screens/frmResult.h"
 #include "optimise/screens/pick_lists.h"
-#include "project/screens/command_buttons.h"
+#include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/message_notice.h"
 #include "ui/report_list.h"

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "project/screens/entry_screen.h"
+#include "ui/entry_screen.h"
 
 class QProgressBar;
 

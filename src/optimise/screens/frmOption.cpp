@@ -1,7 +1,6 @@
 #include "optimise/screens/frmOption.h"
 
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -9,6 +8,7 @@
 
 #include "app/app_state.h"
 #include "app/startup.h"
+#include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/digit_filter.h"
 #include "ui/guard.h"
@@ -38,22 +38,16 @@ frmOption::frmOption(QWidget* parent)
     AddBox(*fields, OptionField::NODES, "txtCtlNodes", QStringLiteral("控制优化结点数："));
 
     auto* note = new QLabel(QStringLiteral("注：切一根材料其损耗量为:2*切口宽+料头长"), this);
-    auto* ok = new QPushButton(QStringLiteral("确定"), this);
-    ok->setObjectName(QStringLiteral("OKButton"));
+    QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定"), this);
     ok->setDefault(true);
-    auto* cancel = new QPushButton(QStringLiteral("取消"), this);
-    cancel->setObjectName(QStringLiteral("CancelButton"));
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
+    QPushButton* cancel = MakeButton("CancelButton", QStringLiteral("取消"), this);
 
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(20, 20, 20, 16);
     rows->setSpacing(14);
     rows->addLayout(fields);
     rows->addWidget(note);
-    rows->addLayout(buttons);
+    rows->addLayout(ButtonRow({ok, cancel}));
     rows->setSizeConstraint(QLayout::SetFixedSize);
 
     OnSignal(ok, &QPushButton::clicked, this, [this] { Store(); });

@@ -12,7 +12,7 @@
 #include "optimise/plan.h"
 #include "optimise/plan_text.h"
 #include "optimise/plan_workbook.h"
-#include "project/screens/command_buttons.h"
+#include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
 #include "ui/report_list.h"

@@ -11,6 +11,7 @@
 #include "app/screens/frmHelp.h"
 #include "optimise/screens/frmCreate01.h"
 #include "optimise/screens/frmOption.h"
+#include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/text.h"
 
@@ -42,7 +43,7 @@ frmYHMain::frmYHMain(QWidget* parent)
     QAction* help = AddButton(*toolbar, 6, QStringLiteral("使用说明"), QStringLiteral("help"));
     QAction* exit = AddButton(*toolbar, 7, QStringLiteral("关闭窗口"), QStringLiteral("exit"));
     manual->setEnabled(false);
-    manual->setToolTip(QStringLiteral("此功能将在后续版本中提供。"));
+    manual->setToolTip(ComingToolTip());
 
     auto* group = new QGroupBox(QStringLiteral("当前设置"), this);
     auto* inside = new QVBoxLayout(group);

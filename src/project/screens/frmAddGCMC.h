@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "project/project_windows.h"
-#include "project/screens/entry_screen.h"
 #include "project/window_type_tree.h"
+#include "ui/entry_screen.h"
 #include "ui/message_notice.h"
 
 class QLabel;

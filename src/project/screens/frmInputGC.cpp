@@ -1,13 +1,12 @@
 #include "project/screens/frmInputGC.h"
 
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "project/screens/command_buttons.h"
 #include "store/field_slots.h"
+#include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/text.h"
 
@@ -32,16 +31,12 @@ frmInputGC::frmInputGC(const QString& title, QWidget* parent)
     QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定 &Y"), this);
     ok->setDefault(true);
     QPushButton* cancel = MakeButton("CancelButton", QStringLiteral("取消 &C"), this);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
 
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(20, 20, 20, 16);
     rows->setSpacing(18);
     rows->addLayout(fields);
-    rows->addLayout(buttons);
+    rows->addLayout(ButtonRow({ok, cancel}));
     rows->setSizeConstraint(QLayout::SetFixedSize);
 
     for (std::size_t i = 0; i + 1 < boxes_.size(); ++i) EnterMovesTo(boxes_[i], boxes_[i + 1]);

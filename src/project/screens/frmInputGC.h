@@ -3,7 +3,7 @@
 #include <array>
 
 #include "project/project_list.h"
-#include "project/screens/entry_screen.h"
+#include "ui/entry_screen.h"
 
 namespace kalvane {
 

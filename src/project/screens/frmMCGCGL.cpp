@@ -1,14 +1,12 @@
 #include "project/screens/frmMCGCGL.h"
 
-#include <QHBoxLayout>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "app/app_state.h"
-#include "project/screens/command_buttons.h"
 #include "project/screens/frmInputGC.h"
 #include "project/screens/frmOpenGC.h"
 #include "store/field_slots.h"
+#include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
 #include "ui/report_list.h"
@@ -50,13 +48,7 @@ frmMCGCGL::frmMCGCGL(QWidget* parent)
     MarkAsComing(copy);
     open->setDefault(true);
 
-    auto* buttons = new QVBoxLayout;
-    for (QPushButton* button : {add, edit, del, open, contract, copy}) buttons->addWidget(button);
-    buttons->addStretch();
-    buttons->addWidget(exit);
-    auto* all = new QHBoxLayout(this);
-    all->addWidget(lvw_, 1);
-    all->addLayout(buttons);
+    LayOutBesideButtons(this, lvw_, {{add, edit, del, open, contract, copy}}, exit);
     resize(kFirstSize);
 
     PressOnKey(lvw_, Qt::Key_Insert, add);

@@ -1,16 +1,14 @@
 #include "project/screens/frmOpenGC.h"
 
 #include <QApplication>
-#include <QHBoxLayout>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "app/app_state.h"
 #include "optimise/screens/frmCreate02.h"
 #include "platform/settings_store.h"
-#include "project/screens/command_buttons.h"
 #include "project/screens/frmAddGCMC.h"
 #include "project/screens/window_rows.h"
+#include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
 #include "ui/main_frame.h"
@@ -43,15 +41,7 @@ frmOpenGC::frmOpenGC(QWidget* parent)
     for (QPushButton* button : {composite, sheets, totals}) MarkAsComing(button);
     edit->setDefault(true);
 
-    auto* buttons = new QVBoxLayout;
-    for (QPushButton* button : {add, composite, edit, del}) buttons->addWidget(button);
-    buttons->addSpacing(18);
-    for (QPushButton* button : {number, sheets, totals, optimise}) buttons->addWidget(button);
-    buttons->addStretch();
-    buttons->addWidget(exit);
-    auto* all = new QHBoxLayout(this);
-    all->addWidget(lvw_, 1);
-    all->addLayout(buttons);
+    LayOutBesideButtons(this, lvw_, {{add, composite, edit, del}, {number, sheets, totals, optimise}}, exit);
     resize(kFirstSize);
 
     PressOnKey(lvw_, Qt::Key_Insert, add);

@@ -1,4 +1,4 @@
-#include "project/screens/entry_screen.h"
+#include "ui/entry_screen.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

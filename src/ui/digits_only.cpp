@@ -1,4 +1,4 @@
-#include "project/screens/digits_only.h"
+#include "ui/digits_only.h"
 
 #include <algorithm>
 

@@ -3,6 +3,7 @@
 #include <QString>
 #include <initializer_list>
 
+class QHBoxLayout;
 class QPushButton;
 class QWidget;
 
@@ -12,13 +13,24 @@ namespace kalvane {
 QPushButton* MakeButton(const char* name, const QString& caption, QWidget* screen,
                         const QString& toolTip = {});
 
+/// What a disabled command says whose screen is still to come.
+QString ComingToolTip();
+
 /// Disables a button whose screen is still to come.
 void MarkAsComing(QPushButton* button);
 
-/// Lays out a screen as a body with a row of buttons below, at the right. `beside`, which may be null, takes
-/// the room left of them.
+/// A row of buttons at the right; `beside`, which may be null, takes the room left of them.
+QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons, QWidget* beside = nullptr);
+
+/// Lays out a screen as a body with a ButtonRow below.
 void LayOutAboveButtons(QWidget* screen, QWidget* body, std::initializer_list<QPushButton*> buttons,
                         QWidget* beside = nullptr);
+
+/// Lays out a screen as a body with a column of buttons at its right: one group below the other, and `exit`
+/// at the bottom.
+void LayOutBesideButtons(QWidget* screen, QWidget* body,
+                         std::initializer_list<std::initializer_list<QPushButton*>> groups,
+                         QPushButton* exit);
 
 /// Presses `button` when that key is hit while `list` has the focus.
 void PressOnKey(QWidget* list, int key, QPushButton* button);
