@@ -9,11 +9,11 @@
 #include "drawing/paint_target.h"
 #include "drawing/primitive_list.h"
 #include "drawing/primitives.h"
+#include "platform/notice_limit.h"
 
 namespace kalvane {
 
 class Connection;
-class Notice;
 
 /// One drawing: up to 361 items of each kind, in drawing units. Copies are independent, so a screen that
 /// repaints keeps one of its own.
@@ -21,6 +21,10 @@ class CPictire {
   public:
     /// `notice` must outlive the drawing and its copies.
     explicit CPictire(Notice& notice) : notice_(&notice) {}
+
+    /// While it lives, the operator is told of the first fifty items that find their kind full, then once
+    /// that there are more: for loads, where each box would have to be confirmed before the next.
+    class TellingLimit;
 
     // Adds one item. When the kind is full the operator is told, the item is dropped and work goes on.
     void AddLine(const LineItem& item) { Add(lines_, item); }
@@ -84,8 +88,11 @@ class CPictire {
     void SavePicture(const std::filesystem::path& path) const;
 
     /// Reads a drawing file in place of all items but the arcs, which stay. Throws FileError with nothing
-    /// changed when it cannot be read, and NumericError as ReadMcText does.
+    /// changed when it cannot be read or is far too large, and NumericError as ReadMcText does.
     void Open_File(const std::filesystem::path& path);
+
+    /// Reads a DXF file in place of all items. ImportDxf is the same and tells what came in.
+    void InputDXF(const std::filesystem::path& path);
 
     /// Paints all items with the source box stretched over the destination box: lines, rectangles, arrows,
     /// dimension marks, texts, arcs, in this order. Throws NumericError for a source box without width or
@@ -112,6 +119,19 @@ class CPictire {
     float xScale_ = 1;
     float yScale_ = 1;
     Notice* notice_;
+};
+
+class CPictire::TellingLimit {
+  public:
+    explicit TellingLimit(CPictire& picture);
+    TellingLimit(const TellingLimit&) = delete;
+    TellingLimit& operator=(const TellingLimit&) = delete;
+    ~TellingLimit() { picture_.notice_ = all_; }
+
+  private:
+    CPictire& picture_;
+    Notice* all_;
+    NoticeLimit limited_;
 };
 
 }  // namespace kalvane

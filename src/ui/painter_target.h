@@ -39,6 +39,8 @@ class PainterTarget : public PaintTarget {
 
     /// Font size of the texts from here on; 9 points at first.
     void SetFontPoints(double points);
+    /// Weight of the texts from here on.
+    void SetBold(bool bold) { font_.setBold(bold); }
     /// Colour of the texts from here on; black at first.
     void SetTextColour(const QColor& colour) { textColour_ = colour; }
 
