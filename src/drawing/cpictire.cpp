@@ -4,6 +4,7 @@
 
 #include "drawing/box_mapping.h"
 #include "drawing/drawing_library.h"
+#include "drawing/dxf_import.h"
 #include "drawing/mc_file.h"
 #include "drawing/shapes.h"
 #include "platform/code_page.h"
@@ -11,9 +12,22 @@
 #include "platform/notice.h"
 
 namespace kalvane {
+namespace {
+
+constexpr int kMostTellings = 50;
+constexpr std::uintmax_t kLargestFile = 64U << 20U;  // a full drawing takes a tenth of a megabyte
+
+}  // namespace
 
 void CPictire::TellFull() const {
     notice_->Show("数组超出范围,请与程序员联系", "#Error", NoticeIcon::None);
+}
+
+CPictire::TellingLimit::TellingLimit(CPictire& picture)
+    : picture_(picture),
+      all_(picture.notice_),
+      limited_(*all_, kMostTellings, "后面还有超出范围的图元，不再逐个提示。") {
+    picture_.notice_ = &limited_;
 }
 
 bool CPictire::PointInBox(Point point, Point& cornerA, Point& cornerB) {
@@ -104,6 +118,7 @@ void CPictire::SaveFileEx(Connection& connection, std::string_view number, std::
 }
 
 void CPictire::OpenFileEX(Connection& connection, std::string_view number) {
+    const TellingLimit limit(*this);
     LoadPrimitives(connection, number, *this);
 }
 
@@ -112,13 +127,19 @@ void CPictire::SavePicture(const std::filesystem::path& path) const {
 }
 
 void CPictire::Open_File(const std::filesystem::path& path) {
+    RequirePlainFile(path, kLargestFile);
     const std::string text = DecodeFileText(ReadFile(path));
     lines_.Clear();
     rectangles_.Clear();
     dimensions_.Clear();
     arrows_.Clear();
     strings_.Clear();
+    const TellingLimit limit(*this);
     ReadMcText(text, *this);
+}
+
+void CPictire::InputDXF(const std::filesystem::path& path) {
+    ImportDxf(path, *this);
 }
 
 void CPictire::PrintPic(PaintTarget& target, const Box& source, const Box& destination) const {

@@ -11,12 +11,12 @@
 #include "drawing/paint_target.h"
 #include "drawing/primitive_list.h"
 #include "drawing/primitives.h"
+#include "platform/notice_limit.h"
 
 namespace kalvane {
 
 class Canvas;
 class Connection;
-class Notice;
 class StatusBar;
 class TextForm;
 
@@ -26,6 +26,10 @@ class CPictire {
   public:
     /// `notice` must outlive the drawing and its copies.
     explicit CPictire(Notice& notice) : notice_(&notice) {}
+
+    /// While it lives, the operator is told of the first fifty items that find their kind full, then once
+    /// that there are more: for loads, where each box would have to be confirmed before the next.
+    class TellingLimit;
 
     // Adds one item. When the kind is full the operator is told, the item is dropped and work goes on.
     void AddLine(const LineItem& item) { Add(lines_, item); }
@@ -88,13 +92,16 @@ class CPictire {
     /// Throws StoreError, and NumericError for a coordinate that is Null.
     void OpenFileEX(Connection& connection, std::string_view number);
 
-    /// Writes a drawing file; see mc_file.h. Arcs are not in it. Throws FileError, also for a text that GBK
-    /// does not hold; an existing file then stays as it was.
+    /// Writes a drawing file; see mc_file.h. Arcs are not in it. Throws FileError, and its kind CodePageError
+    /// for a text that GBK does not hold; an existing file then stays as it was.
     void SavePicture(const std::filesystem::path& path) const;
 
     /// Reads a drawing file in place of all items but the arcs, which stay. Throws FileError with nothing
-    /// changed when it cannot be read, and NumericError as ReadMcText does.
+    /// changed when it cannot be read or is far too large, and NumericError as ReadMcText does.
     void Open_File(const std::filesystem::path& path);
+
+    /// Reads a DXF file in place of all items. ImportDxf is the same and tells what came in.
+    void InputDXF(const std::filesystem::path& path);
 
     /// Paints all items with the source box stretched over the destination box: lines, rectangles, arrows,
     /// dimension marks, texts, arcs, in this order. Throws NumericError for a source box without width or
@@ -172,8 +179,17 @@ class CPictire {
     TextForm* textForm_ = nullptr;
 };
 
-/// Cells of the desk's grid, to which points snap.
-inline constexpr std::int16_t kGridColumns = 80;
-inline constexpr std::int16_t kGridRows = 64;
+class CPictire::TellingLimit {
+  public:
+    explicit TellingLimit(CPictire& picture);
+    TellingLimit(const TellingLimit&) = delete;
+    TellingLimit& operator=(const TellingLimit&) = delete;
+    ~TellingLimit() { picture_.notice_ = all_; }
+
+  private:
+    CPictire& picture_;
+    Notice* all_;
+    NoticeLimit limited_;
+};
 
 }  // namespace kalvane

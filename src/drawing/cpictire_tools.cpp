@@ -2,6 +2,7 @@
 
 #include "drawing/canvas.h"
 #include "drawing/cpictire.h"
+#include "drawing/drawing_grid.h"
 #include "drawing/shapes.h"
 #include "drawing/status_bar.h"
 #include "drawing/text_form.h"

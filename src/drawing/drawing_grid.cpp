@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "drawing/cpictire.h"
 #include "numeric/number.h"
 
 namespace kalvane {

@@ -1,11 +1,16 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
 #include "drawing/primitives.h"
 
 namespace kalvane {
+
+/// Cells of the desk's grid.
+inline constexpr std::int16_t kGridColumns = 80;
+inline constexpr std::int16_t kGridRows = 64;
 
 /// The grid of the drawing desk: 80 by 64 cells over the canvas. Points of the mouse snap to it, and typed
 /// points are counted in its cells.
