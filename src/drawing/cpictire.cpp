@@ -81,6 +81,22 @@ void CPictire::ClearData() {
     arcs_.Clear();
 }
 
+DrawingItems CPictire::Items() const {
+    return {{lines_.begin(), lines_.end()},           {rectangles_.begin(), rectangles_.end()},
+            {dimensions_.begin(), dimensions_.end()}, {arrows_.begin(), arrows_.end()},
+            {strings_.begin(), strings_.end()},       {arcs_.begin(), arcs_.end()}};
+}
+
+void CPictire::SetItems(const DrawingItems& items) {
+    ClearData();
+    for (const LineItem& item : items.lines) AddLine(item);
+    for (const RectangleItem& item : items.rectangles) AddRec(item);
+    for (const DimensionItem& item : items.dimensions) AddDim(item);
+    for (const ArrowItem& item : items.arrows) AddDir(item);
+    for (const TextItem& item : items.strings) AddString(item);
+    for (const ArcItem& item : items.arcs) AddArc(item);
+}
+
 void CPictire::GetStrings(std::span<float> xs, std::span<float> ys, std::span<std::string> texts) const {
     const auto count = static_cast<std::size_t>(strings_.Count());
     KALVANE_ASSERT(xs.size() >= count && ys.size() >= count && texts.size() >= count);
