@@ -1,4 +1,5 @@
 #include "optimise/demand_file.h"
+#include "optimise/demand_paste.h"
 #include "optimise/plan.h"
 #include "optimise/plan_text.h"
 #include "optimise/plan_workbook.h"
@@ -79,6 +80,12 @@ TEST_F(PlanTest, FillsTheSpreadsheet) {
     EXPECT_THROW(workbook.Save(folder_ / "missing" / "plan.xlsx"), FileError);
 }
 
+std::string TextOf(const std::vector<ManualRow>& rows) {
+    std::string text;
+    for (const ManualRow& row : rows) text += row.length + "x" + row.count + " ";
+    return text;
+}
+
 TEST(DemandFileTest, WritesTwoLinesPerRowAndReadsForeignFilesAsFarAsTheyAreWhole) {
     const TempFolder folder;
     std::vector<ManualRow> rows = {{"2000", "3"}, {"1500.5", "4"}};
@@ -91,29 +98,65 @@ TEST(DemandFileTest, WritesTwoLinesPerRowAndReadsForeignFilesAsFarAsTheyAreWhole
     const struct {
         const char* bytes;
         const char* expected;
-        bool isWhole;
+        const char* complaints;  // by their lines
     } files[] = {
-        {"", "", true},
-        {"2000,3\r\n1500, 4", "2000x3 1500x4 ", true},
-        {"2000\n3\n1500\n4\n\n", "2000x3 1500x4 ", true},
-        {"2000\r3\r", "2000x3 ", true},
-        {"2000\r\n3\r\n1500\r\n", "2000x3 ", false},
-        {"2000", "", false},
+        {"", "", ""},
+        {"2000,3\r\n1500, 4", "2000x3 1500x4 ", ""},
+        {"2000\n3\n1500\n4\n\n", "2000x3 1500x4 ", ""},
+        {"\xEF\xBB\xBF"
+         "2000\r3\r",
+         "2000x3 ", ""},
+        {"2000\r\n3\r\n1500\r\n", "2000x3 ", "\n第 3 行：长度“1500”后缺少数量"},
+        {"2000", "", "\n第 1 行：长度“2000”后缺少数量"},
+        {"2000,3\r\n\xB3\xA4,4\r\n1,2", "2000x3 1x2 ", "\n第 2 行：长度“长”、数量“4”不是数字"},  // GBK
+        {"2000\n3\n\n1e3\n4\n", "2000x3 ",
+         "\n第 3 行：长度“”、数量“1e3”不是数字\n第 5 行：长度“4”后缺少数量"},
     };
     for (const auto& file : files) {
         WriteFileAtomically(folder / "a.DDD", file.bytes);
         rows.clear();
-        bool isWhole = true;
+        std::string message;
         try {
             ReadDemandFile(folder / "a.DDD", rows);
-        } catch (const FileError&) {
-            isWhole = false;
+        } catch (const FileError& error) {
+            message = error.what();
         }
-        std::string text;
-        for (const ManualRow& row : rows) text += row.length + "x" + row.count + " ";
-        EXPECT_EQ(text, file.expected);
-        EXPECT_EQ(isWhole, file.isWhole) << file.bytes;
+        EXPECT_EQ(TextOf(rows), file.expected);
+        EXPECT_EQ(message.substr(std::min(message.find('\n'), message.size())), file.complaints);
     }
+}
+
+TEST(DemandPasteTest, TakesTheGoodRowsAndNamesTheOthers) {
+    OptimiseSettings settings;
+    settings.CLC = 6000;
+    const struct {
+        const char* text;
+        const char* expected;
+        const char* complaints;
+    } pastes[] = {
+        {"", "", ""},
+        {"1500\t4\n2000\t3\n", "1500x4 2000x3 ", ""},
+        {"长度\t数量\r\n1500.5\t4\r\n\r\n 2000 ,3", "1500.5x4 2000x3 ", ""},
+        {"\n\"length, mm\",\"pieces\"\n\"800\",\"12\"\r900,1\t\t", "800x12 ", "\n第 4 行：缺少数量"},
+        {"1500\n1500\t\n1500\t1\tA", "", "\n第 1 行：缺少数量\n第 2 行：缺少数量\n第 3 行：多于两列"},
+        {"1,1\nlength,count\n-5,1\n0,1\n1e3,1\n5,0\n5,1.5\n5,1.0\n5,32768\n5999.9,1\n6000,1",
+         "1x1 5x1.0 5999.9x1 ",
+         "\n第 2 行：长度“length”不是正数\n第 3 行：长度“-5”不是正数\n第 4 行：长度“0”不是正数"
+         "\n第 5 行：长度“1e3”不是正数\n第 6 行：数量“0”不是正数\n第 7 行：数量“1.5”不是整数"
+         "\n第 9 行：数量“32768”过大\n第 11 行：长度“6000”：数据大于6000！"},
+    };
+    for (const auto& paste : pastes) {
+        const PastedDemand pasted = ParsePastedDemand(paste.text, settings);
+        EXPECT_EQ(TextOf(pasted.rows), paste.expected) << paste.text;
+        const std::string message = pasted.complaints.Message();
+        EXPECT_EQ(message.substr(std::min(message.find('\n'), message.size())), paste.complaints);
+        EXPECT_EQ(pasted.complaints.IsEmpty(), *paste.complaints == '\0');
+    }
+    std::string many;
+    for (int i = 0; i < 5000; ++i) many += "x1\t1\n";
+    const std::string message = ParsePastedDemand("1\t1\n" + many, settings).complaints.Message();
+    EXPECT_EQ(message.substr(0, message.find('\n')), "有 5000 行没有加入：");
+    EXPECT_EQ(std::count(message.begin(), message.end(), '\n'), 21);  // 20 of them, and that there are more
 }
 
 }  // namespace kalvane::test

@@ -85,7 +85,7 @@ void frmCreate03::Run(const std::vector<std::string>& materials) {
     {
         const Busy busy(this);
         RunOptimisation(App().Main(), App().optimise, App().YHScheme, materials, notice,
-                        [this](std::size_t material) { ShowProgress(material); });
+                        [this](const RunStage& stage) { ShowProgress(stage.material); });
     }
     progressBar_->hide();
 }
