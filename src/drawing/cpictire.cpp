@@ -81,6 +81,22 @@ void CPictire::ClearData() {
     arcs_.Clear();
 }
 
+DrawingItems CPictire::Items() const {
+    return {{lines_.begin(), lines_.end()},           {rectangles_.begin(), rectangles_.end()},
+            {dimensions_.begin(), dimensions_.end()}, {arrows_.begin(), arrows_.end()},
+            {strings_.begin(), strings_.end()},       {arcs_.begin(), arcs_.end()}};
+}
+
+void CPictire::SetItems(const DrawingItems& items) {
+    ClearData();
+    for (const LineItem& item : items.lines) AddLine(item);
+    for (const RectangleItem& item : items.rectangles) AddRec(item);
+    for (const DimensionItem& item : items.dimensions) AddDim(item);
+    for (const ArrowItem& item : items.arrows) AddDir(item);
+    for (const TextItem& item : items.strings) AddString(item);
+    for (const ArcItem& item : items.arcs) AddArc(item);
+}
+
 void CPictire::GetStrings(std::span<float> xs, std::span<float> ys, std::span<std::string> texts) const {
     const auto count = static_cast<std::size_t>(strings_.Count());
     KALVANE_ASSERT(xs.size() >= count && ys.size() >= count && texts.size() >= count);
@@ -132,6 +148,28 @@ void CPictire::PrintPic(PaintTarget& target, const Box& source, const Box& desti
 
 void CPictire::OutMCNoStr(PaintTarget& target, const Box& source, const Box& destination) const {
     Paint(target, source, destination, false);
+}
+
+void CPictire::PrintPicture(PageTarget& page) const {
+    if (lines_.Empty() && rectangles_.Empty() && arrows_.Empty() && dimensions_.Empty() && strings_.Empty()) {
+        notice_->Show("图形为空!", "#Error", NoticeIcon::None);
+        return;
+    }
+    PrintPic(page, kFrame, kFrame);
+    PrintEnd(page);
+}
+
+void CPictire::PrintTemplate01(PageTarget& page, Connection& connection, const ComponentSheet& sheet) {
+    OpenFileEX(connection, sheet.drawingNumber);
+    OutMCNoStr(page, kFrame, kSheetDrawingBox);
+    PaintComponentSheet(page, sheet);
+}
+
+void CPictire::PrintTemp02(PageTarget& page, Connection& connection, std::string_view number,
+                           std::span<const PageLabel> labels) {
+    OpenFileEX(connection, number);
+    OutMCNoStr(page, kFrame, kDrawingPageBox);
+    PaintLabels(page, labels);
 }
 
 void CPictire::Paint(PaintTarget& target, const Box& source, const Box& destination, bool withTexts) const {

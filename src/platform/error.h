@@ -36,10 +36,22 @@ class StoreError : public Error {
     using Error::Error;
 };
 
+/// A store file is damaged, or no store at all.
+class StoreDamage : public StoreError {
+  public:
+    using StoreError::StoreError;
+};
+
 /// A file could not be read or written, or its content cannot be represented.
 class FileError : public Error {
   public:
     using Error::Error;
+};
+
+/// A text holds a character that the file's code page does not.
+class CodePageError : public FileError {
+  public:
+    using FileError::FileError;
 };
 
 }  // namespace kalvane

@@ -50,7 +50,7 @@ void PainterTarget::SetFontPoints(double points) {
 void PainterTarget::DrawLine(float x1, float y1, float x2, float y2) {
     QPointF from(x1 * unitsPerTwip_, y1 * unitsPerTwip_);
     QPointF to(x2 * unitsPerTwip_, y2 * unitsPerTwip_);
-    QPen pen(Qt::black, 1, Qt::SolidLine, Qt::SquareCap);
+    QPen pen(Qt::black, 1, strokeStyle_, Qt::SquareCap);
     if (medium_ == Medium::Screen) {
         const auto pixelCentre = [](QPointF p) {
             return QPointF(std::floor(p.x()) + 0.5, std::floor(p.y()) + 0.5);

@@ -41,6 +41,8 @@ class PainterTarget : public PaintTarget {
     void SetFontPoints(double points);
     /// Weight of the texts from here on.
     void SetBold(bool bold) { font_.setBold(bold); }
+    /// Style of the strokes from here on; solid at first.
+    void SetDashed(bool dashed) { strokeStyle_ = dashed ? Qt::DashLine : Qt::SolidLine; }
     /// Colour of the texts from here on; black at first.
     void SetTextColour(const QColor& colour) { textColour_ = colour; }
 
@@ -51,6 +53,7 @@ class PainterTarget : public PaintTarget {
     QPagedPaintDevice* pages_ = nullptr;
     QFont font_;
     QColor textColour_ = Qt::black;
+    Qt::PenStyle strokeStyle_ = Qt::SolidLine;
 };
 
 }  // namespace kalvane
