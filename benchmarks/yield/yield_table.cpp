@@ -26,7 +26,7 @@ constexpr int kPeerSeconds = 3;
 const OptimiseSettings kSettings{6000, 10, 5, 0, 1, "", 20};
 
 /// Pieces by length: frames and sashes of some window types, sizes to the centimetre or the millimetre, in
-/// pairs.
+/// pairs. Every ninth is of short beads only.
 std::map<int, int> MakeDemand(unsigned seed) {
     std::mt19937 random(seed);
     const auto pick = [&random](int from, int to) {
@@ -34,10 +34,12 @@ std::map<int, int> MakeDemand(unsigned seed) {
     };
     const std::size_t lengths = static_cast<std::size_t>(5 + 35 * static_cast<int>(seed) / (kDemands - 1));
     const int pieces = pick(50, 2000);
-    const int step = seed % 2 == 0 ? 10 : 1;
-    const int longest = seed % 3 == 0 ? 2600 : 1700;
+    const int step = seed % 2 == 0 && seed % 9 != 4 ? 10 : 1;
+    const bool isShort = seed % 9 == 4;
+    const int shortest = isShort ? 120 : 300;
+    const int longest = isShort ? 300 : seed % 3 == 0 ? 2600 : 1700;
     std::map<int, int> demand;
-    while (demand.size() < lengths) demand[pick(300 / step, longest / step) * step] = 2;
+    while (demand.size() < lengths) demand[pick(shortest / step, longest / step) * step] = 2;
     for (int left = pieces - 2 * static_cast<int>(lengths); left > 1;) {
         auto length = demand.begin();
         std::advance(length, pick(0, static_cast<int>(lengths) - 1));

@@ -209,6 +209,7 @@ void frmHandup::Save() {
 }
 
 void frmHandup::Run() {
+    if (runPanel_->IsRunning()) return;
     if (txtName_->text().isEmpty()) {
         Tell(QStringLiteral("材料名称不能为空！"));
         txtName_->setFocus();

@@ -1,10 +1,8 @@
 #include "optimise/screens/frmResult.h"
 
 #include <QDate>
-#include <QDesktopServices>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QUrl>
 
 #include "app/app_state.h"
 #include "optimise/piece_labels.h"
@@ -17,6 +15,7 @@
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
+#include "ui/open_document.h"
 #include "ui/page_output.h"
 #include "ui/report_list.h"
 #include "ui/text.h"
@@ -135,7 +134,7 @@ void frmResult::PutOutWorkbook(const PlanOutput& plan) {
         this, kFolderPurpose, QStringLiteral("Excel 工作簿|*.xlsx"), QStringLiteral("xlsx"), true);
     if (file.isEmpty()) return;
     PlanWorkbook(plan).Save(FromQt(file));
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(file))) {
+    if (!OpenDocument(file)) {
         UseDialogs().Message(this, QStringLiteral("确认您的系统中是否安装了Excel软件或版本不兼容！"),
                              QStringLiteral("提示"), NoticeIcon::Information);
     }

@@ -7,6 +7,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 
+#include "platform/assertion.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
@@ -88,7 +89,7 @@ RunPanel::RunPanel(QWidget* screen)
 }
 
 void RunPanel::Run(const Work& work, const Show& show) {
-    if (isRunning_) return;
+    KALVANE_ASSERT(!isRunning_);
     RunEnd end;
     {
         const Running running(*this);

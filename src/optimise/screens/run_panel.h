@@ -31,8 +31,10 @@ class RunPanel : public QWidget {
     using Show = std::function<QString(const RunStage&)>;
 
     /// Runs `work` and returns when it is over; a cancelled run is told to the operator. What `work` throws
-    /// goes on to the caller. A run is not started within another.
+    /// goes on to the caller. Not to be called while a run is on.
     void Run(const Work& work, const Show& show);
+
+    bool IsRunning() const { return isRunning_; }
 
     /// True while a run is on, which is asked to end then.
     bool RefusesToClose();
