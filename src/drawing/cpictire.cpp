@@ -150,6 +150,28 @@ void CPictire::OutMCNoStr(PaintTarget& target, const Box& source, const Box& des
     Paint(target, source, destination, false);
 }
 
+void CPictire::PrintPicture(PageTarget& page) const {
+    if (lines_.Empty() && rectangles_.Empty() && arrows_.Empty() && dimensions_.Empty() && strings_.Empty()) {
+        notice_->Show("图形为空!", "#Error", NoticeIcon::None);
+        return;
+    }
+    PrintPic(page, kFrame, kFrame);
+    PrintEnd(page);
+}
+
+void CPictire::PrintTemplate01(PageTarget& page, Connection& connection, const ComponentSheet& sheet) {
+    OpenFileEX(connection, sheet.drawingNumber);
+    OutMCNoStr(page, kFrame, kSheetDrawingBox);
+    PaintComponentSheet(page, sheet);
+}
+
+void CPictire::PrintTemp02(PageTarget& page, Connection& connection, std::string_view number,
+                           std::span<const PageLabel> labels) {
+    OpenFileEX(connection, number);
+    OutMCNoStr(page, kFrame, kDrawingPageBox);
+    PaintLabels(page, labels);
+}
+
 void CPictire::Paint(PaintTarget& target, const Box& source, const Box& destination, bool withTexts) const {
     const BoxMapping map(source, destination);
     for (const LineItem& item : lines_) DrawStroke(target, map(item.p1), map(item.p2));

@@ -8,7 +8,7 @@
 
 #include "drawing/drawing_items.h"
 #include "drawing/drawing_tool.h"
-#include "drawing/paint_target.h"
+#include "drawing/page_templates.h"
 #include "drawing/primitive_list.h"
 #include "drawing/primitives.h"
 #include "platform/notice_limit.h"
@@ -110,6 +110,22 @@ class CPictire {
 
     /// As PrintPic without the texts: for pictures that carry values in their place.
     void OutMCNoStr(PaintTarget& target, const Box& source, const Box& destination) const;
+
+    /// Prints the drawing in its own size as one document. A drawing that holds nothing but arcs counts as
+    /// empty: the operator is told and nothing is printed.
+    void PrintPicture(PageTarget& page) const;
+
+    /// Ends the document.
+    static void PrintEnd(PageTarget& page) { page.EndDocument(); }
+
+    /// Prints a component sheet: opens its drawing, as OpenFileEX adds to what is held, and paints the
+    /// drawing without its texts, head, labels and table, continued on further pages. Does not end the
+    /// document. Throws as OpenFileEX.
+    void PrintTemplate01(PageTarget& page, Connection& connection, const ComponentSheet& sheet);
+
+    /// Prints the bare drawing page: the drawing without its texts, and the labels.
+    void PrintTemp02(PageTarget& page, Connection& connection, std::string_view number,
+                     std::span<const PageLabel> labels);
 
     // --- On the drawing desk: bind canvas, status bar and text dialog before anything below. They are not
     // owned and must outlive the drawing.

@@ -193,6 +193,10 @@ int DxfSummary::PassedOverCount() const {
 
 DxfSummary ImportDxf(const std::filesystem::path& path, CPictire& picture) {
     std::filebuf file = OpenDxf(path);
+    return ImportDxf(file, picture);
+}
+
+DxfSummary ImportDxf(std::streambuf& file, CPictire& picture) {
     const Survey survey = SurveyDxf(file);
     file.pubseekpos(0, std::ios::in);
     picture.ClearData();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <streambuf>
 #include <string>
 #include <vector>
 
@@ -39,6 +40,9 @@ struct DxfSummary {
 /// that is no number; what was read before it stays in `picture` then. A file that ends within an entity
 /// loses that entity, one without ENTITIES gives an empty drawing.
 DxfSummary ImportDxf(const std::filesystem::path& path, CPictire& picture);
+
+/// The same from an open file that can be read twice.
+DxfSummary ImportDxf(std::streambuf& file, CPictire& picture);
 
 /// The summary as one line for the operator.
 std::string DxfPrompt(const DxfSummary& summary);
