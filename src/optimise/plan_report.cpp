@@ -19,10 +19,10 @@ Report dsYHB(Connection& connection, std::string_view projectName) {
     report.title = "材料优化表";
     report.heading = {{"工程名称：" + std::string(projectName)}};
     report.columns = {{"材料名称", 20},
-                      {"切割规格", 34},
+                      {"切割规格", 32},
                       {"数量", 7, ReportAlign::Right},
-                      {"优化比率", 16, ReportAlign::Right},
-                      {"剩余料长", 11, ReportAlign::Right},
+                      {"优化比率", 19, ReportAlign::Right},
+                      {"剩余料长", 10, ReportAlign::Right},
                       {"实际需求量", 12}};
     AddRows(report, LoadCutTable(connection));
     return report;
