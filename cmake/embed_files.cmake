@@ -1,5 +1,6 @@
 # Writes OUTPUT: a table of name and content of every file below SOURCE_DIR, in name order.
-file(GLOB_RECURSE FILES RELATIVE ${SOURCE_DIR} ${SOURCE_DIR}/*.tsv ${SOURCE_DIR}/*.MC)
+file(GLOB_RECURSE FILES RELATIVE ${SOURCE_DIR} ${SOURCE_DIR}/*.tsv ${SOURCE_DIR}/*.MC
+     ${SOURCE_DIR}/*.txt)
 list(SORT FILES)
 set(TEXT "#include \"store/starter_files.h\"\n\nnamespace kalvane {\nnamespace {\n")
 string(APPEND TEXT "constexpr StarterFile kFiles[] = {\n")

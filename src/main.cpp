@@ -3,6 +3,7 @@
 
 #include "app/app_state.h"
 #include "app/instance_lock.h"
+#include "app/run_marker.h"
 #include "app/screens/MDIMain.h"
 #include "app/screens/frmLogin.h"
 #include "app/screens/frmSetup.h"
@@ -23,12 +24,16 @@ int main(int argc, char* argv[]) {
         App().folder = std::filesystem::current_path();
         CreateMissingStores(App().folder);
     });
+    RunMarker run(App().folder);
+    App().checkStores = run.Stands();
 
     frmLogin().exec();
     if (!App().loginOK) return 0;
 
     InstanceLock lock(App().folder);
     if (frmSetup(lock).exec() != QDialog::Accepted) return 0;
+
+    run.Set();
 
     MDIMain frame;
     frame.Load();

@@ -20,6 +20,7 @@ struct AppState {
     std::string userAuth;  ///< twelve rights, trimmed
 
     std::filesystem::path folder;  ///< start-up folder, where the stores lie
+    bool checkStores = false;      ///< the program did not end cleanly the last time
     std::unique_ptr<Connection> mainConnection;
     std::string mainConnectionText;
     std::unique_ptr<Connection> stockConnection;

@@ -30,13 +30,6 @@ std::vector<std::string_view> Split(std::string_view text, char separator) {
     }
 }
 
-std::string_view ContentOf(std::string_view name) {
-    for (const StarterFile& file : StarterFiles()) {
-        if (file.name == name) return file.content;
-    }
-    throw FileError("入门资料里没有文件“" + std::string(name) + "”。");
-}
-
 /// A drawing of the library has at most 361 items of a kind, or the library is wrong.
 class RefusingNotice : public Notice {
   public:
@@ -46,7 +39,7 @@ class RefusingNotice : public Notice {
 void SaveDrawing(Connection& main, std::string_view number, std::string_view file) {
     RefusingNotice notice;
     CPictire picture(notice);
-    ReadMcText(DecodeFileText(ContentOf("drawings/" + std::string(file))), picture);
+    ReadMcText(DecodeFileText(StarterContent("drawings/" + std::string(file))), picture);
     picture.SaveFileEx(main, number, "");
 }
 

@@ -4,9 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "backup/restore.h"
 #include "numeric/number.h"
 #include "platform/error.h"
 #include "platform/settings_store.h"
+#include "store/dated_copies.h"
+#include "store/migration.h"
 #include "store/store_files.h"
 
 namespace kalvane {
@@ -21,15 +24,66 @@ std::int16_t ReadInt16(const SettingsStore& settings, std::string_view key, std:
     }
 }
 
-/// Null after a failure, which is told.
-std::unique_ptr<Connection> OpenStore(const std::filesystem::path& file, StoreKind kind,
-                                      const std::string& name, Notice& notice) {
-    try {
-        return std::make_unique<Connection>(file, kind);
-    } catch (const Error& error) {
-        notice.Show("‘" + name + "’数据库打开出错！\n" + error.what(), "出错！", NoticeIcon::Error);
-        return nullptr;
+constexpr const char* kErrorTitle = "出错！";
+
+std::unique_ptr<Connection> OpenSound(const std::filesystem::path& file, StoreKind kind, bool check) {
+    auto connection = std::make_unique<Connection>(file, kind);
+    if (check) connection->CheckIntegrity();
+    return connection;
+}
+
+/// The newest dated copy that is whole; empty when there is none.
+std::filesystem::path SoundCopy(const std::filesystem::path& file, StoreKind kind) {
+    for (const std::filesystem::path& copy : CopiesOf(file)) {
+        try {
+            OpenSound(copy, kind, true);
+            return copy;
+        } catch (const StoreError&) {
+            continue;
+        }
     }
+    return {};
+}
+
+/// Opens a store. A damaged one is told with the way back: the newest copy, put in its place after a yes. It
+/// is never replaced without one, and never lost. Null when the operator wants no copy.
+std::unique_ptr<Connection> OpenOrReplace(const std::filesystem::path& file, StoreKind kind, bool check,
+                                          const std::string& complaint, Notice& notice) {
+    try {
+        return OpenSound(file, kind, check);
+    } catch (const StoreDamage& damage) {
+        const std::filesystem::path copy = SoundCopy(file, kind);
+        if (copy.empty()) {
+            throw StoreDamage(damage.what() + std::string("\n没有可用的副本，请用备份恢复这个文件。"));
+        }
+        const std::string question = complaint + damage.what() + "\n\n最近的副本是 " + TimeOfCopy(copy) +
+                                     " 的。要用它代替吗？损坏的文件会另存在文件夹“副本”里。";
+        if (!notice.Confirm(question, kErrorTitle)) return nullptr;
+        ReplaceDamaged(file, copy);
+        MigrateStore(file, kind);
+        return OpenSound(file, kind, true);
+    }
+}
+
+/// Null after a failure, which is told.
+std::unique_ptr<Connection> OpenStore(const AppState& state, const char* fileName, StoreKind kind,
+                                      const std::string& name, Notice& notice) {
+    const std::filesystem::path file = state.folder / fileName;
+    const std::string complaint = "‘" + name + "’数据库打开出错！\n";
+    std::unique_ptr<Connection> connection;
+    try {
+        MigrateStore(file, kind);
+        connection = OpenOrReplace(file, kind, state.checkStores, complaint, notice);
+    } catch (const Error& error) {
+        notice.Show(complaint + error.what(), kErrorTitle, NoticeIcon::Error);
+    }
+    if (connection == nullptr) return nullptr;
+    try {
+        KeepDailyCopy(file);
+    } catch (const Error& error) {
+        notice.Show("‘" + name + "’数据库今天的副本没有保存：" + error.what(), "提示", NoticeIcon::Warning);
+    }
+    return connection;
 }
 
 std::string TextOf(const std::unique_ptr<Connection>& connection) {
@@ -54,16 +108,23 @@ void ReadOptimiserOptions(AppState& state, Notice& notice) {
 }
 
 std::unique_ptr<Connection> OpenUserStore(const AppState& state, Notice& notice) {
-    return OpenStore(state.folder / kUserStoreName, StoreKind::Users, "用户", notice);
+    return OpenStore(state, kUserStoreName, StoreKind::Users, "用户", notice);
 }
 
 void OpenMainStore(AppState& state, Notice& notice) {
-    state.mainConnection = OpenStore(state.folder / kMainStoreName, StoreKind::Main, "材料", notice);
+    state.mainConnection = OpenStore(state, kMainStoreName, StoreKind::Main, "材料", notice);
     state.mainConnectionText = TextOf(state.mainConnection);
+    if (state.mainConnection == nullptr) return;
+    try {
+        MigrateStore(state.folder / kTemplateStoreName, StoreKind::Main);
+        OfferToUndoCutRestore(*state.mainConnection, notice);
+    } catch (const Error& error) {
+        notice.Show(error.what(), kErrorTitle, NoticeIcon::Error);
+    }
 }
 
 void OpenStockStore(AppState& state, Notice& notice) {
-    state.stockConnection = OpenStore(state.folder / kStockStoreName, StoreKind::Stock, "仓库", notice);
+    state.stockConnection = OpenStore(state, kStockStoreName, StoreKind::Stock, "仓库", notice);
     state.stockConnectionText = TextOf(state.stockConnection);
 }
 

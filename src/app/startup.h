@@ -16,11 +16,15 @@ void ReadOutputSettings(AppState& state, std::int16_t windCheckDefault);
 /// Reads the optimiser's options. A stored number that does not fit leaves the defaults and is told.
 void ReadOptimiserOptions(AppState& state, Notice& notice);
 
+// Opening a store brings it to the present layout, checks it after an unclean end, and keeps the copy of the
+// day. A damaged one is told, and may be replaced by its newest dated copy.
+
 /// Opens the user store for the screen that asks; null after a failure, which is told.
 std::unique_ptr<Connection> OpenUserStore(const AppState& state, Notice& notice);
 
 /// Open the shared stores of the start-up folder. A failure is told, and the program runs on without the
-/// store: AppState::Main and Stock then throw.
+/// store: AppState::Main and Stock then throw. With the main store comes the template of the backups, and the
+/// way back from a restore that was cut off.
 void OpenMainStore(AppState& state, Notice& notice);
 void OpenStockStore(AppState& state, Notice& notice);
 

@@ -5,20 +5,16 @@
 #include <functional>
 #include <string>
 
-#include "app/enc_decrypt.h"
+#include "app/help_text.h"
 #include "app/starter_library.h"
+#include "app/user_admin.h"
 #include "platform/files.h"
 #include "store/connection.h"
+#include "store/starter_files.h"
 #include "store/store_files.h"
 
 namespace kalvane {
 namespace {
-
-void AddUser(Connection& users, const std::string& name, const std::string& password,
-             const std::string& rights) {
-    users.Execute("Insert into User values('" + name + "','" +
-                  clsEncDecrypt().KeyEncBuf(password, kPasswordKey) + "','" + rights + "')");
-}
 
 void FillUsers(Connection& users) {
     AddUser(users, "Admin", "admin888", "111111111111");
@@ -54,6 +50,9 @@ void CreateMissingStores(const std::filesystem::path& folder) {
     CreateWhole(folder / kStockStoreName, StoreKind::Stock, {});
     CreateWhole(folder / kUserStoreName, StoreKind::Users, FillUsers);
     CreateWhole(folder / kTemplateStoreName, StoreKind::Main, {});
+    if (!std::filesystem::exists(folder / kHelpFileName)) {
+        WriteFileAtomically(folder / kHelpFileName, StarterContent(kHelpFileName));
+    }
 }
 
 }  // namespace kalvane

@@ -5,8 +5,9 @@
 namespace kalvane {
 
 /// Makes each of the four store files that is missing in `folder`: the main store with the starter
-/// library, the user store with its two users, the others empty. A file that is there is not touched. A
-/// store comes into being under its name only when it is complete. Throws StoreError or FileError.
+/// library, the user store with its two users, the others empty; and the user's guide, help.txt. A file that
+/// is there is not touched. A store comes into being under its name only when it is complete. Throws
+/// StoreError or FileError.
 void CreateMissingStores(const std::filesystem::path& folder);
 
 }  // namespace kalvane

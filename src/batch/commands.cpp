@@ -17,6 +17,7 @@
 #include "platform/settings_store.h"
 #include "project/project_list.h"
 #include "project/project_windows.h"
+#include "store/migration.h"
 #include "store/store_files.h"
 
 namespace kalvane {
@@ -37,6 +38,7 @@ class LockedStore {
     explicit LockedStore(const std::filesystem::path& folder) : lock_(folder) {
         if (!lock_.Acquire()) throw StoreError("另一个程序正在使用这个文件夹，请先关闭它。");
         CreateMissingStores(folder);
+        MigrateStore(folder / kMainStoreName, StoreKind::Main);
         connection_.emplace(folder / kMainStoreName, StoreKind::Main);
     }
     Connection& Get() { return *connection_; }

@@ -36,6 +36,12 @@ class StoreError : public Error {
     using Error::Error;
 };
 
+/// A store file is damaged, or no store at all.
+class StoreDamage : public StoreError {
+  public:
+    using StoreError::StoreError;
+};
+
 /// A file could not be read or written, or its content cannot be represented.
 class FileError : public Error {
   public:

@@ -90,13 +90,21 @@ void WriteFileAtomically(const std::filesystem::path& path, std::string_view byt
         if (file.Get() < 0) FailWriting(path, errno);
         WriteAll(file.Get(), bytes, path);
         if (::fsync(file.Get()) != 0) FailWriting(path, errno);
-        if (::rename(beside.c_str(), path.c_str()) != 0) FailWriting(path, errno);
     } catch (...) {
         ::unlink(beside.c_str());
         throw;
     }
+    RenameIntoPlace(beside, path);
+}
+
+void RenameIntoPlace(const std::filesystem::path& finished, const std::filesystem::path& name) {
+    if (::rename(finished.c_str(), name.c_str()) != 0) {
+        const int reason = errno;
+        ::unlink(finished.c_str());
+        FailWriting(name, reason);
+    }
     // The rename itself must survive a power cut; a folder that cannot be opened for it is no failure.
-    const std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : ".";
+    const std::filesystem::path folder = name.has_parent_path() ? name.parent_path() : ".";
     const Descriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (directory.Get() >= 0) ::fsync(directory.Get());
 }

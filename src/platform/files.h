@@ -18,6 +18,10 @@ void RequirePlainFile(const std::filesystem::path& path, std::uintmax_t most);
 /// renamed into place. A failure throws FileError and leaves the old file as it was.
 void WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes);
 
+/// Gives a finished file its name as one step, in place of a file that had it, and brings that to the disk.
+/// Throws FileError; the finished file is removed then, and the other stays as it was.
+void RenameIntoPlace(const std::filesystem::path& finished, const std::filesystem::path& name);
+
 /// Gives a finished file its name unless that name is taken by now; then the file is removed, and the one
 /// that has the name stays as it is. Throws FileError.
 void RenameUnlessTaken(const std::filesystem::path& finished, const std::filesystem::path& name);

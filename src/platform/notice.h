@@ -14,6 +14,12 @@ class Notice {
 
     /// Shows `text` (UTF-8) and returns once the operator has seen it. `title` may be empty.
     virtual void Show(const std::string& text, const std::string& title, NoticeIcon icon) = 0;
+
+    /// Asks yes or no; true for yes. Where nobody can answer, the text is shown and the answer is no.
+    virtual bool Confirm(const std::string& text, const std::string& title) {
+        Show(text, title, NoticeIcon::Warning);
+        return false;
+    }
 };
 
 }  // namespace kalvane

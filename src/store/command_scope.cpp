@@ -24,14 +24,18 @@ void CommandScope::Finish() {
     Connection::Implementation& store = *connection_.implementation_;
     open_ = false;
     if (--store.scopeDepth > 0) return;
-    // A disk failure inside the scope has already ended the engine's transaction and undone it.
-    if (sqlite3_get_autocommit(store.database) != 0) return;
+    if (IsUndone()) throw StoreError("磁盘读写失败，数据没有写入。");
     try {
         store.Run("COMMIT");
     } catch (const StoreError&) {
         if (sqlite3_get_autocommit(store.database) == 0) store.Run("ROLLBACK");
         throw;
     }
+}
+
+bool CommandScope::IsUndone() const {
+    // The engine has then ended its transaction by itself.
+    return sqlite3_get_autocommit(connection_.implementation_->database) != 0;
 }
 
 void InCommand(Connection& connection, const std::function<void()>& command) {

@@ -18,8 +18,12 @@ class CommandScope {
     /// Ends the scope as after a failure: what was executed stays.
     ~CommandScope();
 
-    /// Commits what was executed. Throws StoreError when the disk refuses; nothing is kept then.
+    /// Commits what was executed. Throws StoreError when the disk refuses, or has refused before; nothing is
+    /// kept then.
     void Finish();
+
+    /// True when a disk failure has undone what was executed. Nothing more may be executed in the scope then.
+    bool IsUndone() const;
 
   private:
     Connection& connection_;

@@ -20,21 +20,6 @@ constexpr std::size_t kMostStatements = 256;
 /// How long another process that holds the file is waited for.
 constexpr int kBusyMilliseconds = 3000;
 
-/// Binds a value. A text outside `scratch` is part of the statement's text and outlives the step; one in it
-/// is copied, since the next literal may need the place.
-void Bind(sqlite3_stmt* statement, int position, const EngineValue& value, const std::string& scratch) {
-    if (const auto* whole = std::get_if<std::int64_t>(&value)) {
-        sqlite3_bind_int64(statement, position, *whole);
-    } else if (const auto* real = std::get_if<double>(&value)) {
-        sqlite3_bind_double(statement, position, *real);
-    } else if (const auto* text = std::get_if<std::string_view>(&value)) {
-        sqlite3_bind_text(statement, position, text->data(), static_cast<int>(text->size()),
-                          text->data() == scratch.data() ? SQLITE_TRANSIENT : SQLITE_STATIC);
-    } else {
-        sqlite3_bind_null(statement, position);
-    }
-}
-
 EngineValue LiteralValue(const Literal& literal, std::string& scratch) {
     if (literal.isText) {
         if (!literal.hasDoubledQuotes) return literal.source;
@@ -72,20 +57,28 @@ EngineValue ArgumentValue(sqlite3_value* argument) {
 
 }  // namespace
 
+void BindValue(sqlite3_stmt* statement, int position, const EngineValue& value, const std::string& scratch) {
+    if (const auto* whole = std::get_if<std::int64_t>(&value)) {
+        sqlite3_bind_int64(statement, position, *whole);
+    } else if (const auto* real = std::get_if<double>(&value)) {
+        sqlite3_bind_double(statement, position, *real);
+    } else if (const auto* text = std::get_if<std::string_view>(&value)) {
+        sqlite3_bind_text(statement, position, text->data(), static_cast<int>(text->size()),
+                          text->data() == scratch.data() ? SQLITE_TRANSIENT : SQLITE_STATIC);
+    } else {
+        sqlite3_bind_null(statement, position);
+    }
+}
+
 Connection::Implementation::Implementation(const std::filesystem::path& path, StoreKind kind) : file(path) {
     const std::string name = path.filename().string();
     if (!std::filesystem::is_regular_file(path)) throw StoreError("没有数据库文件“" + name + "”。");
-    const int opened =
-        sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    const int access = IsReadOnly(kind) ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+    const int opened = sqlite3_open_v2(path.c_str(), &database, access | SQLITE_OPEN_NOMUTEX, nullptr);
     try {
-        if (opened != SQLITE_OK) throw StoreError(name + "：" + EngineErrorText(database));
-        sqlite3_busy_timeout(database, kBusyMilliseconds);
-        // A quoted name that is no column must be an error, never a text.
-        sqlite3_db_config(database, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-        sqlite3_create_function_v2(database, "kalvane_store", 2, SQLITE_UTF8, this, &StoreFunction, nullptr,
-                                   nullptr, nullptr);
+        if (opened != SQLITE_OK) ThrowEngineError(database, name + "：");
+        Configure(kind);
         CheckFile(name, kind);
-        Run("PRAGMA synchronous = FULL");
     } catch (...) {
         sqlite3_close(database);
         throw;
@@ -97,37 +90,59 @@ Connection::Implementation::~Implementation() {
     sqlite3_close(database);
 }
 
-void Connection::Implementation::CheckFile(const std::string& name, StoreKind kind) {
-    if (ReadPragma("application_id") != kApplicationId) {
-        throw StoreError("文件“" + name + "”不是本系统的数据库，没有改动它。");
+void Connection::Implementation::Configure(StoreKind kind) {
+    sqlite3_busy_timeout(database, kBusyMilliseconds);
+    // A quoted name that is no column must be an error, never a text.
+    sqlite3_db_config(database, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_create_function_v2(database, "kalvane_store", 2, SQLITE_UTF8, this, &StoreFunction, nullptr,
+                               nullptr, nullptr);
+    if (IsReadOnly(kind)) {
+        sqlite3_db_config(database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+        sqlite3_db_config(database, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+        Run("PRAGMA cell_size_check = ON");
+    } else {
+        Run("PRAGMA synchronous = FULL");
     }
-    if (ReadPragma("user_version") > kSchemaVersion) {
+}
+
+void Connection::Implementation::CheckFile(const std::string& name, StoreKind kind) {
+    if (kind != StoreKind::Legacy && ReadPragma("application_id") != std::to_string(kApplicationId)) {
+        throw StoreDamage("文件“" + name + "”不是本系统的数据库，没有改动它。");
+    }
+    if (IsReadOnly(kind)) CheckIntegrity();
+    if (kind != StoreKind::Legacy && std::stoi(ReadPragma("user_version")) > kSchemaVersion) {
         throw StoreError("数据库文件“" + name + "”是由更新版本的程序建立的，请用新版本打开。");
     }
     for (const Table& table : TablesOf(kind)) {
         const std::string probe = "SELECT * FROM \"" + std::string(table.name) + "\" LIMIT 0";
         if (sqlite3_exec(database, probe.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-            throw StoreError("数据库文件“" + name + "”里没有表“" + std::string(table.name) +
-                             "”，文件已损坏。");
+            throw StoreDamage("数据库文件“" + name + "”里没有表“" + std::string(table.name) +
+                              "”，文件已损坏。");
         }
     }
 }
 
-int Connection::Implementation::ReadPragma(const char* pragma) {
+void Connection::Implementation::CheckIntegrity() {
+    if (ReadPragma("integrity_check(1)") != "ok") {
+        throw StoreDamage("数据库文件“" + file.filename().string() + "”已损坏。");
+    }
+}
+
+std::string Connection::Implementation::ReadPragma(const char* pragma) {
     sqlite3_stmt* statement = nullptr;
     const std::string sql = std::string("PRAGMA ") + pragma;
-    int value = 0;
+    std::string value;
     const bool read = sqlite3_prepare_v2(database, sql.c_str(), -1, &statement, nullptr) == SQLITE_OK &&
                       sqlite3_step(statement) == SQLITE_ROW;
-    if (read) value = sqlite3_column_int(statement, 0);
+    if (read) value = reinterpret_cast<const char*>(sqlite3_column_text(statement, 0));
     sqlite3_finalize(statement);
-    if (!read) throw StoreError(file.filename().string() + "：" + EngineErrorText(database));
+    if (!read) ThrowEngineError(database, file.filename().string() + "：");
     return value;
 }
 
 void Connection::Implementation::Run(const char* sql) {
     if (sqlite3_exec(database, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
-        throw StoreError(EngineErrorText(database));
+        ThrowEngineError(database);
     }
 }
 
@@ -144,7 +159,7 @@ PreparedStatement& Connection::Implementation::Prepare(std::string_view sql) {
     statement.translation = TranslateStatement(scanned_.shape);
     if (sqlite3_prepare_v3(database, statement.translation.sql.c_str(), -1, SQLITE_PREPARE_PERSISTENT,
                            &statement.handle, nullptr) != SQLITE_OK) {
-        throw StoreError(EngineErrorText(database));
+        ThrowEngineError(database);
     }
     const int columns = sqlite3_column_count(statement.handle);
     std::vector<std::string> names;
@@ -165,7 +180,7 @@ void Connection::Implementation::BindLiterals(PreparedStatement& statement) {
         EngineValue value = LiteralValue(scanned_.literals[i], scratch);
         const WrittenValue& target = statement.translation.parameters[i];
         if (target.column != nullptr) value = ConvertForColumn(target, value, scratch);
-        Bind(statement.handle, static_cast<int>(i) + 1, value, scratch);
+        BindValue(statement.handle, static_cast<int>(i) + 1, value, scratch);
     }
 }
 
@@ -174,10 +189,9 @@ int Connection::Implementation::Step(PreparedStatement& statement) {
     const int result = sqlite3_step(statement.handle);
     if (result == SQLITE_ROW || result == SQLITE_DONE) return result;
     const std::exception_ptr refused = std::exchange(conversionFailure_, nullptr);
-    const std::string text = EngineErrorText(database);
-    sqlite3_reset(statement.handle);
+    sqlite3_reset(statement.handle);  // keeps the failure
     if (refused != nullptr) std::rethrow_exception(refused);
-    throw StoreError(text);
+    ThrowEngineError(database);
 }
 
 FieldValue Connection::Implementation::ReadField(const PreparedStatement& statement, int column) {
@@ -247,6 +261,10 @@ Cursor Connection::OpenCursor(std::string_view sql) {
     }
     sqlite3_reset(statement.handle);
     return Cursor(statement.names, std::move(cells));
+}
+
+void Connection::CheckIntegrity() {
+    implementation_->CheckIntegrity();
 }
 
 const std::filesystem::path& Connection::File() const {

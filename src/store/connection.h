@@ -15,8 +15,9 @@ namespace kalvane {
 /// one thread at a time.
 class Connection {
   public:
-    /// Opens an existing store. Throws StoreError when the file is missing, is no store of ours or was
-    /// made by a newer version; the file then stays as it was.
+    /// Opens an existing store. Throws StoreError when the file is missing or was made by a newer version,
+    /// StoreDamage when it is damaged or no store of ours; the file then stays as it was. A file that is only
+    /// read may come from anywhere, so it is opened after an integrity check.
     Connection(const std::filesystem::path& file, StoreKind kind);
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
@@ -28,6 +29,9 @@ class Connection {
     /// Runs a select and reads its rows.
     Cursor OpenCursor(std::string_view sql);
 
+    /// Reads the whole file; throws StoreDamage when something in it does not fit together.
+    void CheckIntegrity();
+
     const std::filesystem::path& File() const;
 
     /// "Provider=...;Data Source=" followed by the file's full path.
@@ -35,6 +39,7 @@ class Connection {
 
   private:
     friend class CommandScope;
+    friend class TableWriter;
     class Implementation;
     std::unique_ptr<Implementation> implementation_;
 };

@@ -10,6 +10,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "store/column_conversion.h"
 #include "store/connection.h"
 #include "store/dialect.h"
 #include "store/statement_scanner.h"
@@ -24,6 +25,10 @@ struct PreparedStatement {
     std::vector<bool> isFloat32;
 };
 
+/// Binds a value, positions counted from 1. A text outside `scratch` must outlive the step; one in it is
+/// copied, since the next value may need the place.
+void BindValue(sqlite3_stmt* statement, int position, const EngineValue& value, const std::string& scratch);
+
 /// The engine's side of a connection, seen by Connection and CommandScope only.
 class Connection::Implementation {
   public:
@@ -34,6 +39,7 @@ class Connection::Implementation {
 
     /// Runs a statement of the engine's own language.
     void Run(const char* sql);
+    void CheckIntegrity();
 
     /// The prepared statement of that shape; the literals of `sql` stand in `scanned_` until the next call.
     PreparedStatement& Prepare(std::string_view sql);
@@ -47,8 +53,9 @@ class Connection::Implementation {
     int scopeDepth = 0;  // open command scopes
 
   private:
+    void Configure(StoreKind kind);
     void CheckFile(const std::string& name, StoreKind kind);
-    int ReadPragma(const char* pragma);
+    std::string ReadPragma(const char* pragma);
     void ForgetStatements();
     static void StoreFunction(sqlite3_context* context, int count, sqlite3_value** arguments);
 

@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+#include "platform/error.h"
+
 namespace kalvane {
 namespace {
 
@@ -44,6 +46,13 @@ std::string EngineErrorText(sqlite3* database) {
         default:
             return StatementErrorText(sqlite3_errmsg(database));
     }
+}
+
+void ThrowEngineError(sqlite3* database, const std::string& before) {
+    const int code = sqlite3_errcode(database);
+    const std::string text = before + EngineErrorText(database);
+    if (code == SQLITE_CORRUPT || code == SQLITE_NOTADB) throw StoreDamage(text);
+    throw StoreError(text);
 }
 
 }  // namespace kalvane

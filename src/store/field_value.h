@@ -29,8 +29,11 @@ class FieldValue {
     /// Reference to the text of a text value, for loops that would otherwise copy; empty for other kinds.
     const std::string& TextView() const;
 
+    using Value = std::variant<std::monostate, std::int64_t, float, double, std::string>;
+    const Value& Get() const { return value_; }
+
   private:
-    std::variant<std::monostate, std::int64_t, float, double, std::string> value_;
+    Value value_;
 };
 
 }  // namespace kalvane

@@ -225,6 +225,9 @@ std::span<const Table> TablesOf(StoreKind kind) {
             return kStockTables;
         case StoreKind::Users:
             return kUsersTables;
+        case StoreKind::Backup:
+        case StoreKind::Legacy:
+            break;
     }
     return {};
 }

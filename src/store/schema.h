@@ -23,10 +23,15 @@ struct Table {
     std::array<std::string_view, 2> indexedColumns{};
 };
 
-/// The kinds of store file.
-enum class StoreKind { Main, Stock, Users };
+/// The kinds of store file. A backup and a store of the legacy layout are only read, and which tables they
+/// have shows when one is asked for.
+enum class StoreKind { Main, Stock, Users, Backup, Legacy };
 
-/// Tables of a store, in the order in which they are made.
+inline bool IsReadOnly(StoreKind kind) {
+    return kind == StoreKind::Backup || kind == StoreKind::Legacy;
+}
+
+/// Tables of a store, in the order in which they are made; none for a kind that is only read.
 std::span<const Table> TablesOf(StoreKind kind);
 
 /// The table of that name in any store, without regard to case; null when there is none.

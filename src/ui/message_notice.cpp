@@ -9,4 +9,8 @@ void MessageNotice::Show(const std::string& text, const std::string& title, Noti
     UseDialogs().Message(parent_, ToQt(text), ToQt(title), icon);
 }
 
+bool MessageNotice::Confirm(const std::string& text, const std::string& title) {
+    return UseDialogs().AskYesNo(parent_, ToQt(text), ToQt(title));
+}
+
 }  // namespace kalvane

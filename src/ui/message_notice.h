@@ -13,6 +13,7 @@ class MessageNotice final : public Notice {
     explicit MessageNotice(QWidget* parent) : parent_(parent) {}
 
     void Show(const std::string& text, const std::string& title, NoticeIcon icon) override;
+    bool Confirm(const std::string& text, const std::string& title) override;
 
   private:
     QPointer<QWidget> parent_;

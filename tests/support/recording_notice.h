@@ -15,6 +15,12 @@ class RecordingNotice : public Notice {
         icons.push_back(icon);
     }
 
+    bool Confirm(const std::string& text, const std::string& title) override {
+        shown.push_back(title + "|" + text);
+        return answer;
+    }
+
+    bool answer = false;  ///< to every question
     std::vector<std::string> shown;
     std::vector<NoticeIcon> icons;
 };

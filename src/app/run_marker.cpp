@@ -1,0 +1,29 @@
+#include "app/run_marker.h"
+
+#include "platform/error.h"
+#include "platform/files.h"
+
+namespace kalvane {
+
+RunMarker::RunMarker(std::filesystem::path folder) : file_(std::move(folder) / ".kalvane.running") {}
+
+RunMarker::~RunMarker() {
+    std::error_code ignored;
+    if (isSet_) std::filesystem::remove(file_, ignored);
+}
+
+bool RunMarker::Stands() const {
+    std::error_code ignored;
+    return std::filesystem::exists(file_, ignored);
+}
+
+void RunMarker::Set() {
+    try {
+        WriteFileAtomically(file_, "");
+        isSet_ = true;
+    } catch (const FileError&) {
+        // Told in the header.
+    }
+}
+
+}  // namespace kalvane

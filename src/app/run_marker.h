@@ -1,0 +1,29 @@
+#pragma once
+
+#include <filesystem>
+
+namespace kalvane {
+
+/// Tells at a start whether the last run on the folder ended cleanly: a file stands there while the program
+/// runs, and a killed program leaves it.
+class RunMarker {
+  public:
+    explicit RunMarker(std::filesystem::path folder);
+    RunMarker(const RunMarker&) = delete;
+    RunMarker& operator=(const RunMarker&) = delete;
+    /// Ends the run: removes the file when it is this run's.
+    ~RunMarker();
+
+    /// True while a run has not ended cleanly; this one too, once begun.
+    bool Stands() const;
+
+    /// Begins the run. Call once the folder is known to be used by no other program. A file that cannot be
+    /// written is no failure: the next start then looks no closer than usual.
+    void Set();
+
+  private:
+    std::filesystem::path file_;
+    bool isSet_ = false;
+};
+
+}  // namespace kalvane

@@ -1,0 +1,82 @@
+#include "backup/backup.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <string>
+
+#include "platform/error.h"
+#include "platform/files.h"
+#include "store/command_scope.h"
+#include "store/store_files.h"
+#include "store/table_writer.h"
+
+namespace kalvane {
+namespace {
+
+constexpr std::array<std::string_view, 25> kTables = {
+    "arc",      "Arrow",  "Dim",    "Line",   "Rectangle", "Strings",  "标注",     "标注2", "玻璃",
+    "材料厂家", "窗板材", "窗配件", "窗型钢", "工程",      "工程合同", "工程门窗", "门窗",  "门窗厂家",
+    "门窗系列", "配件",   "图",     "型材",   "型材系列",  "型钢",     "窗型材"};
+
+void CopyFile(const std::filesystem::path& from, const std::filesystem::path& to) {
+    std::error_code failure;
+    std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing, failure);
+    if (failure) {
+        throw FileError("文件“" + from.filename().string() + "”不能复制到“" + to.parent_path().string() +
+                        "”：" + failure.message() + "。");
+    }
+}
+
+void FillBackup(Connection& main, Connection& backup, const TableProgress& progress) {
+    int done = 0;
+    for (const std::string_view table : kTables) {
+        TableWriter writer(backup, table);
+        CopyTableRows(main.OpenCursor("Select * from " + std::string(table)), writer);
+        if (progress) progress(++done);
+    }
+}
+
+void RefuseStores(const std::filesystem::path& target, const std::filesystem::path& folder) {
+    for (const char* name : {kMainStoreName, kStockStoreName, kUserStoreName, kTemplateStoreName}) {
+        std::error_code ignored;
+        if (std::filesystem::equivalent(target, folder / name, ignored)) {
+            throw FileError("“" + std::string(name) + "”是正在使用的数据库，请换一个备份文件名。");
+        }
+    }
+}
+
+}  // namespace
+
+std::span<const std::string_view> BackupTables() {
+    return kTables;
+}
+
+std::filesystem::path BackupPath(const std::filesystem::path& folder, std::string_view name) {
+    const bool hasDot = name.find('.') != std::string_view::npos;
+    return folder / (std::string(name) + (hasDot ? "" : ".MBK"));
+}
+
+void BackupMainStore(Connection& main, const std::filesystem::path& templateStore,
+                     const std::filesystem::path& target, const TableProgress& progress) {
+    RefuseStores(target, main.File().parent_path());
+    std::filesystem::path beside = target;
+    beside += ".tmp" + std::to_string(::getpid());
+    try {
+        CopyFile(templateStore, beside);
+        {
+            Connection backup(beside, StoreKind::Main);
+            InCommand(backup, [&] { FillBackup(main, backup, progress); });
+        }
+        RenameIntoPlace(beside, target);
+    } catch (...) {
+        std::error_code ignored;
+        std::filesystem::remove(beside, ignored);
+        std::filesystem::path journal = beside;
+        journal += "-journal";
+        std::filesystem::remove(journal, ignored);
+        throw;
+    }
+}
+
+}  // namespace kalvane

@@ -1,0 +1,79 @@
+#include "store/store_copy.h"
+
+#include <sqlite3.h>
+#include <unistd.h>
+
+#include <string>
+
+#include "platform/error.h"
+#include "platform/files.h"
+#include "store/engine_error.h"
+
+namespace kalvane {
+namespace {
+
+constexpr int kBusyMilliseconds = 3000;
+
+/// A store file opened at the level of the engine.
+class RawStore {
+  public:
+    RawStore(const std::filesystem::path& file, int access) {
+        const std::string name = "“" + file.filename().string() + "”：";
+        if (sqlite3_open_v2(file.c_str(), &handle_, access, nullptr) != SQLITE_OK) {
+            const std::string text = name + EngineErrorText(handle_);
+            sqlite3_close(handle_);
+            throw StoreError(text);
+        }
+        sqlite3_busy_timeout(handle_, kBusyMilliseconds);
+    }
+    RawStore(const RawStore&) = delete;
+    RawStore& operator=(const RawStore&) = delete;
+    ~RawStore() { sqlite3_close(handle_); }
+
+    sqlite3* Get() const { return handle_; }
+
+  private:
+    sqlite3* handle_ = nullptr;
+};
+
+/// All pages as one transaction of the target.
+void CopyPages(const RawStore& source, const RawStore& target) {
+    sqlite3_exec(target.Get(), "PRAGMA synchronous = FULL", nullptr, nullptr, nullptr);
+    sqlite3_backup* copying = sqlite3_backup_init(target.Get(), "main", source.Get(), "main");
+    if (copying == nullptr) ThrowEngineError(target.Get());
+    sqlite3_backup_step(copying, -1);
+    if (sqlite3_backup_finish(copying) != SQLITE_OK) ThrowEngineError(target.Get());
+}
+
+void RemoveQuietly(const std::filesystem::path& file) {
+    std::error_code ignored;
+    std::filesystem::remove(file, ignored);
+}
+
+}  // namespace
+
+void CopyStore(const std::filesystem::path& source, const std::filesystem::path& target) {
+    std::filesystem::path beside = target;
+    beside += ".tmp" + std::to_string(::getpid());
+    std::filesystem::path journal = beside;
+    journal += "-journal";
+    RemoveQuietly(beside);
+    try {
+        const RawStore from(source, SQLITE_OPEN_READWRITE);
+        const RawStore to(beside, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+        CopyPages(from, to);
+    } catch (...) {
+        RemoveQuietly(beside);
+        RemoveQuietly(journal);
+        throw;
+    }
+    RenameIntoPlace(beside, target);
+}
+
+void ReplaceContent(const std::filesystem::path& target, const std::filesystem::path& source) {
+    const RawStore from(source, SQLITE_OPEN_READONLY);
+    const RawStore to(target, SQLITE_OPEN_READWRITE);
+    CopyPages(from, to);
+}
+
+}  // namespace kalvane
