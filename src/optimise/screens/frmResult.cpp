@@ -10,12 +10,14 @@
 
 #include "app/app_state.h"
 #include "optimise/plan.h"
+#include "optimise/plan_report.h"
 #include "optimise/plan_text.h"
 #include "optimise/plan_workbook.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
 #include "ui/report_list.h"
+#include "ui/report_output.h"
 #include "ui/text.h"
 
 namespace kalvane {
@@ -54,8 +56,6 @@ frmResult::frmResult(QWidget* parent)
     QPushButton* save = MakeButton("CmdSave", QStringLiteral("&S 输出"), this,
                                    QStringLiteral("按“设置”中的导出文件类型输出两张表"));
     QPushButton* exit = MakeButton("CmdExit", QStringLiteral("&E 返回"), this);
-    MarkAsComing(printCuts);
-    MarkAsComing(printTotals);
     save->setDefault(true);
 
     auto* frames = new QSplitter(Qt::Vertical, this);
@@ -68,6 +68,10 @@ frmResult::frmResult(QWidget* parent)
     resize(kFirstSize);
 
     OnSignal(save, &QPushButton::clicked, this, [this] { PutOut(); });
+    OnSignal(printCuts, &QPushButton::clicked, this,
+             [this] { PrintReport(this, dsYHB(App().Main(), App().optimiseProjectName)); });
+    OnSignal(printTotals, &QPushButton::clicked, this,
+             [this] { PrintReport(this, dsYHBT(App().Main(), App().optimiseProjectName)); });
     OnSignal(exit, &QPushButton::clicked, this, [this] { reject(); });
     Guarded(this, [this] { Load(); });
 }
