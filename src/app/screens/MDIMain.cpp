@@ -17,6 +17,9 @@
 #include "app/help_text.h"
 #include "app/screens/frmAbort.h"
 #include "app/screens/frmHelp.h"
+#include "app/screens/frmSetting.h"
+#include "app/screens/frmUserChangPwd.h"
+#include "app/screens/frmUserMng.h"
 #include "app/screens/kalvane_kernel.h"
 #include "app/screens/picture_area.h"
 #include "app/startup.h"
@@ -87,9 +90,9 @@ const std::vector<MDIMain::EntryMenu>& MDIMain::Menus() {
          {},
          {
              {QStringLiteral("mnuDatabaseManage"), QStringLiteral("备份/恢复"), QStringLiteral("backup"),
-              Right::Backup, nullptr},
+              Right::Backup, [](MDIMain& frame) { KalvaneKernel().ShowTools(&frame); }},
              {QStringLiteral("mnuPath"), QStringLiteral("设置"), QStringLiteral("settings"), Right::Settings,
-              nullptr},
+              [](MDIMain& frame) { frmSetting(&frame).exec(); }},
              {QStringLiteral("mnuChangeBackgroup"), QStringLiteral("更改背景"), QStringLiteral("picture"),
               Right::Background, [](MDIMain& frame) { frame.ChangeBackground(); }},
          }},
@@ -98,9 +101,9 @@ const std::vector<MDIMain::EntryMenu>& MDIMain::Menus() {
          {},
          {
              {QStringLiteral("mnuUserMng"), QStringLiteral("用户管理"), QStringLiteral("users"), Right::Users,
-              nullptr},
+              [](MDIMain& frame) { frmUserMng(&frame).exec(); }},
              {QStringLiteral("mnuMdifyPwd"), QStringLiteral("更改密码"), QStringLiteral("password"),
-              Right::Password, nullptr},
+              Right::Password, [](MDIMain& frame) { frmUserChangPwd(&frame).exec(); }},
          }},
         {QStringLiteral("mnuCangKu"),
          QStringLiteral("仓库管理"),
