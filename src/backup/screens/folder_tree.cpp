@@ -15,7 +15,8 @@ FolderTree::FolderTree(const QString& name, QWidget* parent)
     for (int column = 1; column < model_->columnCount(); ++column) hideColumn(column);
     // Folders are read as they come into sight, and the chosen one moves meanwhile.
     connect(model_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
-        if (!Folder().isEmpty() && QFileInfo(Folder()).path() == loaded) scrollTo(currentIndex());
+        if (Folder().isEmpty() || QFileInfo(Folder()).path() != loaded) return;
+        scrollTo(currentIndex(), PositionAtCenter);
     });
 }
 
@@ -28,7 +29,7 @@ void FolderTree::SetFolder(const QString& folder) {
     setCurrentIndex(index);
     if (index.isValid()) {
         expand(index);
-        scrollTo(index);
+        scrollTo(index, PositionAtCenter);
     }
 }
 

@@ -16,7 +16,7 @@
 
 namespace kalvane {
 namespace {
-constexpr int kWidth = 420;
+constexpr int kButtonWidth = 380;
 constexpr int kButtonHeight = 40;
 }  // namespace
 
@@ -25,9 +25,9 @@ frmTools::frmTools(QWidget* parent)
       progress_(new CopyProgress(this)) {
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
     auto* note = new QLabel(QStringLiteral("备份包含材料、图、窗型、工程和合同，不包含仓库和用户。\n"
-                                           "还原会替换这些数据；还原之前的数据自动另存在文件夹“副本”里。"),
+                                           "还原会替换这些数据，还原之前的数据自动另存在\n"
+                                           "文件夹“副本”里。"),
                             this);
-    note->setWordWrap(true);
     QPushButton* backup = MakeButton("CmdBackup", QStringLiteral("备份数据库 &B"), this);
     QPushButton* restore = MakeButton("CmdRestore", QStringLiteral("还原数据库 &R"), this);
     QPushButton* exit = MakeButton("CmdExit", QStringLiteral("退出 &Q"), this, QStringLiteral("Esc"));
@@ -37,11 +37,11 @@ frmTools::frmTools(QWidget* parent)
     rows->setSpacing(12);
     rows->addWidget(note);
     for (QPushButton* button : {backup, restore}) {
-        button->setMinimumHeight(kButtonHeight);
+        button->setMinimumSize(kButtonWidth, kButtonHeight);
         rows->addWidget(button);
     }
     rows->addLayout(ButtonRow({exit}, progress_));
-    setFixedWidth(kWidth);
+    rows->setSizeConstraint(QLayout::SetFixedSize);
 
     OnSignal(backup, &QPushButton::clicked, this, [this] { Backup(); });
     OnSignal(restore, &QPushButton::clicked, this, [this] { Restore(); });
