@@ -1,5 +1,9 @@
 #include "backup/backup.h"
 
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "backup/restore.h"
 #include "platform/error.h"
 #include "platform/files.h"
@@ -127,22 +131,44 @@ TEST_F(BackupTest, WhatIsNoBackupChangesNothing) {
     EXPECT_TRUE(CopiesOf(file_).empty());
 }
 
-TEST_F(BackupTest, ARestoreThatWasCutOffIsOfferedToBeUndone) {
+TEST_F(BackupTest, ARestoreThatAKillCutOffIsOfferedToBeUndone) {
     Backup();
+    EmptyStore();
     const auto before = ContentOf(*store_);
-    const std::filesystem::path copy = KeepCopy(file_);
-    OfferToUndoCutRestore(*store_, notice_);
-    EXPECT_TRUE(notice_.shown.empty());
+    store_.reset();
     for (const bool putBack : {true, false}) {
-        EmptyStore();
-        const auto cut = ContentOf(*store_);
-        WriteFileAtomically(folder_ / ".kalvane.restore", copy.string());
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            Connection store(file_, StoreKind::Main);
+            RestoreMainStore(
+                store, backup_,
+                [](int tables) {
+                    if (tables == 12) kill(getpid(), SIGKILL);
+                },
+                notice_);
+            _exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFSIGNALED(status));
+        Connection store(file_, StoreKind::Main);
         notice_.answer = putBack;
-        OfferToUndoCutRestore(*store_, notice_);
-        EXPECT_EQ(ContentOf(*store_), putBack ? before : cut);
-        OfferToUndoCutRestore(*store_, notice_);  // asked once
-        EXPECT_EQ(notice_.shown.size(), putBack ? 2U : 3U);
+        notice_.shown.clear();
+        OfferToUndoCutRestore(store, notice_);
+        EXPECT_EQ(ContentOf(store), before);
+        EXPECT_EQ(notice_.shown.size(), putBack ? 2U : 1U);
+        OfferToUndoCutRestore(store, notice_);  // asked once
+        EXPECT_EQ(notice_.shown.size(), putBack ? 2U : 1U);
     }
+    // Cut off behind its last table it has replaced them all, and can still be undone.
+    Connection store(file_, StoreKind::Main);
+    const std::filesystem::path copy = KeepCopy(file_);
+    FillMain(store, 1);
+    WriteFileAtomically(folder_ / ".kalvane.restore", copy.string());
+    notice_.answer = true;
+    OfferToUndoCutRestore(store, notice_);
+    EXPECT_EQ(ContentOf(store), before);
 }
 
 }  // namespace kalvane::test
