@@ -7,6 +7,7 @@
 #include "app/app_state.h"
 #include "optimise/piece_labels.h"
 #include "optimise/plan.h"
+#include "optimise/plan_report.h"
 #include "optimise/plan_text.h"
 #include "optimise/plan_workbook.h"
 #include "optimise/plan_yield.h"
@@ -18,6 +19,7 @@
 #include "ui/open_document.h"
 #include "ui/page_output.h"
 #include "ui/report_list.h"
+#include "ui/report_output.h"
 #include "ui/text.h"
 
 namespace kalvane {
@@ -52,8 +54,6 @@ frmResult::frmResult(QWidget* parent)
     QPushButton* save = MakeButton("CmdSave", QStringLiteral("&S 输出"), this,
                                    QStringLiteral("按“设置”中的导出文件类型输出两张表"));
     QPushButton* exit = MakeButton("CmdExit", QStringLiteral("&E 返回"), this);
-    MarkAsComing(printCuts);
-    MarkAsComing(printTotals);
     save->setDefault(true);
 
     QPushButton* printDiagram = MakeButton("CmdPrintCut", QStringLiteral("切割图… &G"), this,
@@ -74,6 +74,10 @@ frmResult::frmResult(QWidget* parent)
     OnSignal(printDiagram, &QPushButton::clicked, this, [this] { PrintDiagram(); });
     OnSignal(printLabels, &QPushButton::clicked, this, [this] { PrintLabels(); });
     OnSignal(save, &QPushButton::clicked, this, [this] { PutOut(); });
+    OnSignal(printCuts, &QPushButton::clicked, this,
+             [this] { PrintReport(this, dsYHB(App().Main(), App().optimiseProjectName)); });
+    OnSignal(printTotals, &QPushButton::clicked, this,
+             [this] { PrintReport(this, dsYHBT(App().Main(), App().optimiseProjectName)); });
     OnSignal(exit, &QPushButton::clicked, this, [this] { reject(); });
     Guarded(this, [this] { Load(); });
 }
