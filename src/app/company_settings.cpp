@@ -8,7 +8,6 @@ namespace kalvane {
 namespace {
 
 constexpr std::int16_t kWindCheckHere = 0;
-constexpr std::string_view kSectionPaths = "Param";
 
 }  // namespace
 

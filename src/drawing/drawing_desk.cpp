@@ -231,6 +231,7 @@ void DrawingDesk::Change(const std::function<void()>& gesture, bool replaces) {
         gesture();
     } catch (...) {
         failure = std::current_exception();
+        if (replaces) picture_.Repaint();  // with what was read until then
     }
     if (picture_.Items() != before.items || !(identity_ == *before.identity)) {
         if (identity_ == *before.identity) before.identity.reset();

@@ -34,6 +34,7 @@ class SettingsStore {
 inline constexpr std::string_view kSettingsApplication = "Tesmar";
 inline constexpr std::string_view kSettingsPathsApplication = "Norvex";
 inline constexpr std::string_view kSectionMain = "KALVANE";
+inline constexpr std::string_view kSectionPaths = "Param";
 inline constexpr std::string_view kSectionOptimiser = "YHOPTION";
 inline constexpr std::string_view kSectionScreens = "SCREENS";  // remembered geometry and folders
 

@@ -6,6 +6,7 @@
 #include "platform/error.h"
 #include "platform/files.h"
 #include "support/main_store.h"
+#include "support/xlsx_reader.h"
 
 namespace kalvane::test {
 
@@ -53,31 +54,86 @@ TEST_F(PlanTest, SumsLikeBarsNamesAMaterialOnceAndIsWrittenAsText) {
     EXPECT_THROW(SavePlanText({}, folder_ / "missing" / "plan.txt"), FileError);
 }
 
-TEST_F(PlanTest, FillsTheSpreadsheet) {
-    const Workbook workbook = PlanWorkbook(plan_);
-    const struct {
-        std::size_t sheet;
-        int row, column;
-        const char* text;
-        bool isNumber, hasBorder;
-    } cells[] = {{0, 1, 1, "材料优化切割表", false, false},
-                 {0, 3, 2, "阳光花园", false, false},
-                 {0, 4, 2, "                 切割规格", false, true},
-                 {0, 6, 1, "", false, true},
-                 {0, 6, 3, "2", true, true},
-                 {0, 7, 5, "2800", true, true},
-                 {1, 4, 4, "   采购数量", false, true},
-                 {1, 5, 3, "0.75", true, true},
-                 {1, 9, 3, "2024-05-01", false, false}};
-    for (const auto& cell : cells) {
-        const Sheet& sheet = workbook.Sheets().at(cell.sheet);
-        EXPECT_EQ(sheet.Text(cell.row, cell.column), cell.text) << cell.row << " " << cell.column;
-        EXPECT_EQ(sheet.IsNumber(cell.row, cell.column), cell.isNumber) << cell.text;
-        EXPECT_EQ(sheet.HasBorder(cell.row, cell.column), cell.hasBorder) << cell.text;
+/// Names of the cells of a range.
+std::set<std::string> Range(char firstColumn, char lastColumn, int firstRow, int lastRow) {
+    std::set<std::string> names;
+    for (int row = firstRow; row <= lastRow; ++row) {
+        for (char column = firstColumn; column <= lastColumn; ++column)
+            names.insert(column + std::to_string(row));
     }
-    workbook.Save(folder_ / "plan.xlsx");
-    EXPECT_EQ(ReadFile(folder_ / "plan.xlsx").substr(0, 2), "PK");
-    EXPECT_THROW(workbook.Save(folder_ / "missing" / "plan.xlsx"), FileError);
+    return names;
+}
+
+TEST_F(PlanTest, FillsTheSpreadsheet) {
+    PlanWorkbook(plan_).Save(folder_ / "plan.xlsx");
+    const XlsxReader reader(folder_ / "plan.xlsx");
+    const XlsxSheet cuts = reader.Sheet(1);
+    const std::map<std::string, std::string> cutCells = {{"A1", "材料优化切割表"},
+                                                         {"B1", ""},
+                                                         {"C1", ""},
+                                                         {"D1", ""},
+                                                         {"E1", ""},
+                                                         {"A3", "   工程名称："},
+                                                         {"B3", "阳光花园"},
+                                                         {"A4", "材料名称"},
+                                                         {"B4", "                 切割规格"},
+                                                         {"C4", "数量"},
+                                                         {"D4", "优化比率"},
+                                                         {"E4", "余料长度"},
+                                                         {"A5", "A"},
+                                                         {"B5", "1500"},
+                                                         {"C5", "#1"},
+                                                         {"D5", "#0.25"},
+                                                         {"E5", "#4500"},
+                                                         {"A6", ""},
+                                                         {"B6", "2000*3"},
+                                                         {"C6", "#2"},
+                                                         {"D6", "#1"},
+                                                         {"E6", "#0"},
+                                                         {"A7", "B"},
+                                                         {"B7", "800*4"},
+                                                         {"C7", "#1"},
+                                                         {"D7", "#0.5"},
+                                                         {"E7", "#2800"},
+                                                         {"A9", "日期"},
+                                                         {"B9", "2024-05-01"}};
+    EXPECT_EQ(cuts.cells, cutCells);
+    EXPECT_EQ(cuts.bordered, Range('A', 'E', 4, 7));
+    EXPECT_EQ(cuts.centred, Range('A', 'E', 1, 1));
+    EXPECT_EQ(cuts.merges, std::vector<std::string>{"A1:E1"});
+    // The file adds the 5 pixels of a cell's margin, of 7 to a character.
+    const std::map<int, double> widths = {{2, 45}, {3, 4}, {4, 9}, {5, 9}};
+    ASSERT_EQ(cuts.widths.size(), widths.size());
+    for (const auto& [column, width] : widths) EXPECT_NEAR(cuts.widths.at(column), width + 5.0 / 7, 0.01);
+
+    const XlsxSheet totals = reader.Sheet(2);
+    const std::map<std::string, std::string> totalCells = {{"A1", "材料优化统计表"},
+                                                           {"B1", ""},
+                                                           {"C1", ""},
+                                                           {"D1", ""},
+                                                           {"A3", "   工程名称："},
+                                                           {"B3", "阳光花园"},
+                                                           {"A4", "   材料名称"},
+                                                           {"B4", "     数量"},
+                                                           {"C4", "   优化比率"},
+                                                           {"D4", "   采购数量"},
+                                                           {"A5", "A"},
+                                                           {"B5", "#3"},
+                                                           {"C5", "#0.75"},
+                                                           {"D5", ""},
+                                                           {"A6", "B"},
+                                                           {"B6", "#1"},
+                                                           {"C6", "#0.5"},
+                                                           {"D6", ""},
+                                                           {"A7", "总经理签字"},
+                                                           {"C7", "主管签字"},
+                                                           {"A9", "日期"},
+                                                           {"C9", "2024-05-01"}};
+    EXPECT_EQ(totals.cells, totalCells);
+    EXPECT_EQ(totals.bordered, Range('A', 'D', 4, 6));
+    EXPECT_EQ(totals.merges, std::vector<std::string>{"A1:D1"});
+    EXPECT_TRUE(totals.widths.empty());
+    EXPECT_THROW(PlanWorkbook(plan_).Save(folder_ / "missing" / "plan.xlsx"), FileError);
 }
 
 std::string TextOf(const std::vector<ManualRow>& rows) {

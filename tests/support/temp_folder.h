@@ -10,8 +10,14 @@ namespace kalvane::test {
 class TempFolder {
   public:
     TempFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "kalvane-XXXXXX").string();
-        path_ = mkdtemp(pattern.data());
+        // In memory where that can be had: the tests make hundreds of small files and wait for no disk.
+        for (const std::filesystem::path& parent :
+             {std::filesystem::path("/dev/shm"), std::filesystem::temp_directory_path()}) {
+            std::string pattern = (parent / "kalvane-XXXXXX").string();
+            if (mkdtemp(pattern.data()) == nullptr) continue;
+            path_ = pattern;
+            return;
+        }
     }
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;

@@ -91,7 +91,7 @@ const std::vector<MDIMain::EntryMenu>& MDIMain::Menus() {
          {},
          {
              {QStringLiteral("mnuDatabaseManage"), QStringLiteral("备份/恢复"), QStringLiteral("backup"),
-              Right::Backup, nullptr},
+              Right::Backup, [](MDIMain& frame) { KalvaneKernel().ShowTools(&frame); }},
              {QStringLiteral("mnuPath"), QStringLiteral("设置"), QStringLiteral("settings"), Right::Settings,
               [](MDIMain& frame) { frmSetting(&frame).exec(); }},
              {QStringLiteral("mnuChangeBackgroup"), QStringLiteral("更改背景"), QStringLiteral("picture"),

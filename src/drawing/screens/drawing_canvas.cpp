@@ -119,6 +119,11 @@ QPointF DrawingCanvas::ToWidget(Point at) const {
     return QPointF(at.x, at.y) * Scale() + origin_;
 }
 
+Point DrawingCanvas::PointOf(const QMouseEvent& event) const {
+    const Point at = ToFrame(event.position());
+    return {std::clamp(at.x, 0.0F, kFrameWidth), std::clamp(at.y, 0.0F, kFrameHeight)};
+}
+
 void DrawingCanvas::ResetView() {
     zoom_ = 1;
     SetOrigin({});
@@ -202,7 +207,7 @@ void DrawingCanvas::mousePressEvent(QMouseEvent* event) {
         setCursor(Qt::ClosedHandCursor);
         return;
     }
-    Q_EMIT Pressed(event->button() == Qt::LeftButton, ToFrame(event->position()));
+    Q_EMIT Pressed(event->button() == Qt::LeftButton, PointOf(*event));
 }
 
 void DrawingCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -217,7 +222,7 @@ void DrawingCanvas::mouseMoveEvent(QMouseEvent* event) {
     if (panning_) {
         SetOrigin(event->pos() - panFrom_);
     } else {
-        Q_EMIT Moved(ToFrame(event->position()));
+        Q_EMIT Moved(PointOf(*event));
     }
 }
 

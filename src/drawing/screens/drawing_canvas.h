@@ -30,7 +30,7 @@ class DrawingCanvas final : public QWidget, public Canvas {
     void SetDashed(bool dashed) override;
     void ShowCrossHair(Point at) override;
 
-    /// The point of the frame under a position in the widget, and back.
+    /// The point under a position in the widget, and back.
     Point ToFrame(QPointF position) const;
     QPointF ToWidget(Point at) const;
 
@@ -41,6 +41,8 @@ class DrawingCanvas final : public QWidget, public Canvas {
     QSize minimumSizeHint() const override;
 
   Q_SIGNALS:
+    // Points of the frame; beside it the mouse counts as on its edge.
+
     /// A button other than the middle one was pressed.
     void Pressed(bool leftButton, Point at);
     void Moved(Point at);
@@ -62,6 +64,7 @@ class DrawingCanvas final : public QWidget, public Canvas {
         std::size_t dots = 0;
     };
 
+    Point PointOf(const QMouseEvent& event) const;
     double FitScale() const;
     double Scale() const { return FitScale() * zoom_; }  ///< pixels of a drawing unit
     /// Puts the view's top left corner as near to `origin` as the frame allows.

@@ -1,0 +1,41 @@
+#include "backup/screens/folder_tree.h"
+
+#include <QFileInfo>
+#include <QFileSystemModel>
+
+namespace kalvane {
+
+FolderTree::FolderTree(const QString& name, QWidget* parent)
+    : QTreeView(parent), model_(new QFileSystemModel(this)) {
+    setObjectName(name);
+    model_->setFilter(QDir::Dirs | QDir::Drives | QDir::NoDotAndDotDot);
+    model_->setRootPath(QString());
+    setModel(model_);
+    setHeaderHidden(true);
+    for (int column = 1; column < model_->columnCount(); ++column) hideColumn(column);
+    // Folders are read as they come into sight, and the chosen one moves meanwhile.
+    connect(model_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
+        if (Folder().isEmpty() || QFileInfo(Folder()).path() != loaded) return;
+        scrollTo(currentIndex(), PositionAtCenter);
+    });
+}
+
+QString FolderTree::Folder() const {
+    return currentIndex().isValid() ? model_->filePath(currentIndex()) : QString();
+}
+
+void FolderTree::SetFolder(const QString& folder) {
+    const QModelIndex index = folder.isEmpty() ? QModelIndex() : model_->index(folder);
+    setCurrentIndex(index);
+    if (index.isValid()) {
+        expand(index);
+        scrollTo(index, PositionAtCenter);
+    }
+}
+
+void FolderTree::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTreeView::currentChanged(current, previous);
+    Q_EMIT FolderChanged();
+}
+
+}  // namespace kalvane

@@ -1,0 +1,174 @@
+#include "backup/backup.h"
+
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "backup/restore.h"
+#include "platform/error.h"
+#include "platform/files.h"
+#include "store/dated_copies.h"
+#include "support/main_store.h"
+#include "support/raw_store.h"
+#include "support/store_content.h"
+
+namespace kalvane::test {
+
+class BackupTest : public MainStoreTest {
+  protected:
+    void SetUp() override {
+        CreateStore(template_, StoreKind::Main);
+        FillMain(*store_, 3);
+    }
+
+    void Backup() { BackupMainStore(*store_, template_, backup_, {}); }
+    /// A store that differs from the backup in every table.
+    void EmptyStore() {
+        for (const Table& table : TablesOf(StoreKind::Main)) {
+            store_->Execute("Delete * from " + std::string(table.name));
+        }
+        Insert({"图 (编号,图名) values(99,'新图')", "arc (Bn) values(99)", "优化数据 (编号) values(99)"});
+    }
+    /// What the refusal says; empty when there was none.
+    std::string Restore(const std::filesystem::path& file) {
+        try {
+            RestoreMainStore(
+                *store_, file, [this](int tables) { done_.push_back(tables); }, notice_);
+            return "";
+        } catch (const Error& failure) {
+            return failure.what();
+        }
+    }
+    std::vector<std::string> FilesIn(const std::filesystem::path& folder) {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+            names.push_back(entry.path().filename().string());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    const std::filesystem::path template_ = folder_ / kTemplateStoreName;
+    const std::filesystem::path backup_ = folder_ / "a.MBK";
+    std::vector<int> done_;
+};
+
+TEST_F(BackupTest, NamesWithoutADotGetTheSuffix) {
+    EXPECT_EQ(BackupPath("/b", "abc"), "/b/abc.MBK");
+    EXPECT_EQ(BackupPath("/b/", "abc.bak"), "/b/abc.bak");
+    EXPECT_EQ(BackupPath("/b", "abc."), "/b/abc.");
+}
+
+TEST_F(BackupTest, ComesBackRowForRowAndNothingElseChanges) {
+    const auto before = BackedUpContent(*store_);
+    Backup();
+    Connection backup(backup_, StoreKind::Main);
+    EXPECT_EQ(BackedUpContent(backup), before);
+    EXPECT_EQ(Rows("Select * from 优化数据").empty(), false);
+    EXPECT_EQ(test::Rows(backup, "Select * from 优化数据") + test::Rows(backup, "Select * from OutXC"), "");
+
+    EmptyStore();
+    EXPECT_EQ(Restore(backup_), "");
+    EXPECT_EQ(BackedUpContent(*store_), before);
+    EXPECT_EQ(Rows("Select 编号 from 优化数据"), "99");
+    EXPECT_EQ(notice_.shown, std::vector<std::string>{"提示|数据恢复完毕！"});
+    EXPECT_EQ(done_.size(), 25U);
+    EXPECT_EQ(done_.back(), 25);
+}
+
+TEST_F(BackupTest, AFailedOneLeavesTheGoodOneAndNoLitter) {
+    Backup();
+    const std::string good = ReadFile(backup_);
+    const auto files = FilesIn(folder_.Path());
+    RunRaw(template_, "DROP TABLE \"型材\"");
+    EXPECT_THROW(Backup(), StoreError);
+    EXPECT_THROW(BackupMainStore(*store_, folder_ / "none.mdb", backup_, {}), FileError);
+    EXPECT_THROW(BackupMainStore(*store_, template_, folder_ / "none" / "x.MBK", {}), FileError);
+    for (const char* name : {kMainStoreName, kTemplateStoreName}) {
+        EXPECT_THROW(BackupMainStore(*store_, template_, folder_ / name, {}), FileError) << name;
+    }
+    EXPECT_EQ(ReadFile(backup_), good);
+    EXPECT_EQ(FilesIn(folder_.Path()), files);
+}
+
+TEST_F(BackupTest, AFailingTableStopsItAndTheCopyIsOffered) {
+    Backup();
+    EmptyStore();
+    Insert({"窗配件 (编号) values(99)", "窗型钢 (编号) values(99)"});
+    const auto before = ContentOf(*store_);
+    RunRaw(backup_, "DROP TABLE \"窗配件\"");  // the twelfth
+    for (const bool putBack : {true, false}) {
+        notice_.answer = putBack;
+        notice_.shown.clear();
+        done_.clear();
+        EXPECT_EQ(Restore(backup_), "");
+        EXPECT_EQ(done_.size(), 11U);
+        ASSERT_EQ(notice_.shown.size(), putBack ? 2U : 1U);
+        EXPECT_NE(notice_.shown[0].find("还原到表“窗配件”时出错"), std::string::npos) << notice_.shown[0];
+        EXPECT_EQ(ContentOf(*store_) == before, putBack);
+    }
+    EXPECT_NE(Rows("Select * from 窗板材"), "");       // the eleventh
+    EXPECT_EQ(Rows("Select * from 窗配件"), "");       // emptied
+    EXPECT_EQ(Rows("Select 编号 from 窗型钢"), "99");  // untouched
+    EXPECT_EQ(Rows("Select 图名 from 图"), "新图");
+    EXPECT_FALSE(std::filesystem::exists(folder_ / ".kalvane.restore"));
+}
+
+TEST_F(BackupTest, WhatIsNoBackupChangesNothing) {
+    Backup();
+    const auto before = ContentOf(*store_);
+    WriteFileAtomically(folder_ / "letter.MBK", std::string(3000, 'x'));
+    RunRaw(folder_ / "foreign.MBK", "CREATE TABLE t (a)");
+    std::filesystem::copy_file(backup_, folder_ / "newer.MBK");
+    RunRaw(folder_ / "newer.MBK", "PRAGMA user_version=2");
+    std::filesystem::copy_file(backup_, folder_ / "short.MBK");
+    std::filesystem::resize_file(folder_ / "short.MBK", std::filesystem::file_size(backup_) / 2);
+    for (const char* name : {"letter.MBK", "foreign.MBK", "newer.MBK", "short.MBK", "none.MBK"}) {
+        EXPECT_NE(Restore(folder_ / name), "") << name;
+    }
+    EXPECT_EQ(ContentOf(*store_), before);
+    EXPECT_TRUE(notice_.shown.empty());
+    EXPECT_TRUE(CopiesOf(file_).empty());
+}
+
+TEST_F(BackupTest, ARestoreThatAKillCutOffIsOfferedToBeUndone) {
+    Backup();
+    EmptyStore();
+    const auto before = ContentOf(*store_);
+    store_.reset();
+    for (const bool putBack : {true, false}) {
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            Connection store(file_, StoreKind::Main);
+            RestoreMainStore(
+                store, backup_,
+                [](int tables) {
+                    if (tables == 12) kill(getpid(), SIGKILL);
+                },
+                notice_);
+            _exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFSIGNALED(status));
+        Connection store(file_, StoreKind::Main);
+        notice_.answer = putBack;
+        notice_.shown.clear();
+        OfferToUndoCutRestore(store, notice_);
+        EXPECT_EQ(ContentOf(store), before);
+        EXPECT_EQ(notice_.shown.size(), putBack ? 2U : 1U);
+        OfferToUndoCutRestore(store, notice_);  // asked once
+        EXPECT_EQ(notice_.shown.size(), putBack ? 2U : 1U);
+    }
+    // Cut off behind its last table it has replaced them all, and can still be undone.
+    Connection store(file_, StoreKind::Main);
+    const std::filesystem::path copy = KeepCopy(file_);
+    FillMain(store, 1);
+    WriteFileAtomically(folder_ / ".kalvane.restore", copy.string());
+    notice_.answer = true;
+    OfferToUndoCutRestore(store, notice_);
+    EXPECT_EQ(ContentOf(store), before);
+}
+
+}  // namespace kalvane::test
