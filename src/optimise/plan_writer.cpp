@@ -7,6 +7,7 @@ namespace kalvane {
 
 RunEnd PlanWriter::Write(const std::function<void()>& work) {
     RunEnd end = RunEnd::Finished;
+    bool workEnded = false;
     try {
         InCommand(connection_, [&] {
             connection_.Execute("Delete from 优化结果");
@@ -15,9 +16,12 @@ RunEnd PlanWriter::Write(const std::function<void()>& work) {
             } catch (const RunCancelled&) {
                 end = RunEnd::Cancelled;
             }
+            workEnded = true;
         });
     } catch (const StoreError&) {
         Restore();
+        // An optimiser that goes on after a failed row has told the operator of it.
+        if (workEnded && storeFailed_) return end;
         throw;
     }
     if (storeFailed_) Restore();
