@@ -1,7 +1,6 @@
 #include "ui/painter_target.h"
 
 #include <QFontDatabase>
-#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainter>
 #include <cmath>
@@ -14,6 +13,10 @@ namespace {
 constexpr double kTwipsPerPoint = 20;
 constexpr double kPaperStroke = 0.5 * kTwipsPerPoint;
 constexpr double kFontPoints = 9;
+
+/// Smoothing takes three times as long. No drawing that is made for people to read has so many slanted
+/// strokes, and one that has is to be painted without a wait.
+constexpr int kMostSmoothed = 500;
 
 /// A font that holds all Chinese characters, where it is installed.
 QFont TextFont() {
@@ -28,8 +31,11 @@ QFont TextFont() {
 }  // namespace
 
 PainterTarget::PainterTarget(QPainter& painter, double unitsPerTwip, Medium medium)
-    : painter_(painter), unitsPerTwip_(unitsPerTwip), medium_(medium), font_(TextFont()) {
+    : painter_(painter), unitsPerTwip_(unitsPerTwip), medium_(medium), font_(TextFont()), metrics_(font_) {
     SetFontPoints(kFontPoints);
+    const bool onScreen = medium_ == Medium::Screen;
+    strokePen_ = QPen(Qt::black, onScreen ? 1 : kPaperStroke * unitsPerTwip_, Qt::SolidLine,
+                      onScreen ? Qt::SquareCap : Qt::RoundCap);
     painter_.setRenderHint(QPainter::Antialiasing);
 }
 
@@ -37,40 +43,63 @@ void PainterTarget::SetFontPoints(double points) {
     // The font's own points are those of the device's resolution, ours those of the scale.
     const double units = points * kTwipsPerPoint * unitsPerTwip_;
     font_.setPointSizeF(units * 72 / painter_.device()->logicalDpiY());
+    Measure();
+}
+
+void PainterTarget::SetBold(bool bold) {
+    font_.setBold(bold);
+    Measure();
+}
+
+void PainterTarget::Measure() {
+    metrics_ = QFontMetricsF(font_, painter_.device());
+}
+
+void PainterTarget::SetDashed(bool dashed) {
+    strokePen_.setStyle(dashed ? Qt::DashLine : Qt::SolidLine);
+}
+
+/// A change of pen takes as long as a short stroke.
+void PainterTarget::UsePen(const QPen& pen) {
+    if (painter_.pen() != pen) painter_.setPen(pen);
 }
 
 void PainterTarget::DrawLine(float x1, float y1, float x2, float y2) {
-    QPointF from(x1 * unitsPerTwip_, y1 * unitsPerTwip_);
-    QPointF to(x2 * unitsPerTwip_, y2 * unitsPerTwip_);
-    QPen pen(Qt::black, 1, strokeStyle_, Qt::SquareCap);
+    const QPointF from(x1 * unitsPerTwip_, y1 * unitsPerTwip_);
+    const QPointF to(x2 * unitsPerTwip_, y2 * unitsPerTwip_);
+    UsePen(strokePen_);
     if (medium_ == Medium::Screen) {
-        const auto pixelCentre = [](QPointF p) {
-            return QPointF(std::floor(p.x()) + 0.5, std::floor(p.y()) + 0.5);
-        };
-        from = pixelCentre(from);
-        to = pixelCentre(to);
+        DrawOnPixels(from, to);
     } else {
-        pen.setWidthF(kPaperStroke * unitsPerTwip_);
-        pen.setCapStyle(Qt::RoundCap);
+        painter_.drawLine(from, to);
     }
-    painter_.setPen(pen);
-    painter_.drawLine(from, to);
+}
+
+void PainterTarget::DrawOnPixels(QPointF from, QPointF to) {
+    const auto pixelCentre = [](QPointF p) {
+        return QPointF(std::floor(p.x()) + 0.5, std::floor(p.y()) + 0.5);
+    };
+    const QLineF line(pixelCentre(from), pixelCentre(to));
+    const bool smooth = line.dx() != 0 && line.dy() != 0 && smoothed_ < kMostSmoothed;
+    if (smooth) ++smoothed_;
+    if (painter_.testRenderHint(QPainter::Antialiasing) != smooth) {
+        painter_.setRenderHint(QPainter::Antialiasing, smooth);
+    }
+    painter_.drawLine(line);
 }
 
 void PainterTarget::DrawText(float x, float y, std::string_view text) {
-    const double ascent = QFontMetricsF(font_, painter_.device()).ascent();
     painter_.setFont(font_);
-    painter_.setPen(textColour_);
-    painter_.drawText(QPointF(x * unitsPerTwip_, y * unitsPerTwip_ + ascent), ToQt(text));
+    UsePen(textColour_);
+    painter_.drawText(QPointF(x * unitsPerTwip_, y * unitsPerTwip_ + metrics_.ascent()), ToQt(text));
 }
 
 float PainterTarget::TextHeight(std::string_view) const {
-    return static_cast<float>(QFontMetricsF(font_, painter_.device()).height() / unitsPerTwip_);
+    return static_cast<float>(metrics_.height() / unitsPerTwip_);
 }
 
 float PainterTarget::TextWidth(std::string_view text) const {
-    const QFontMetricsF metrics(font_, painter_.device());
-    return static_cast<float>(metrics.horizontalAdvance(ToQt(text)) / unitsPerTwip_);
+    return static_cast<float>(metrics_.horizontalAdvance(ToQt(text)) / unitsPerTwip_);
 }
 
 }  // namespace kalvane

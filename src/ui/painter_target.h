@@ -2,6 +2,8 @@
 
 #include <QColor>
 #include <QFont>
+#include <QFontMetricsF>
+#include <QPen>
 
 #include "drawing/paint_target.h"
 
@@ -17,7 +19,7 @@ inline constexpr int kTwipsPerPixel = 15;
 class PainterTarget : public PaintTarget {
   public:
     enum class Medium {
-        Screen,  ///< strokes one device unit wide, upright and level ones on whole pixels
+        Screen,  ///< strokes one device unit wide on whole pixels, slanted ones smoothed
         Paper    ///< strokes half a point wide
     };
 
@@ -36,19 +38,25 @@ class PainterTarget : public PaintTarget {
     /// Font size of the texts from here on; 9 points at first.
     void SetFontPoints(double points);
     /// Weight of the texts from here on.
-    void SetBold(bool bold) { font_.setBold(bold); }
+    void SetBold(bool bold);
     /// Style of the strokes from here on; solid at first.
-    void SetDashed(bool dashed) { strokeStyle_ = dashed ? Qt::DashLine : Qt::SolidLine; }
+    void SetDashed(bool dashed);
     /// Colour of the texts from here on; black at first.
     void SetTextColour(const QColor& colour) { textColour_ = colour; }
 
   private:
+    void Measure();
+    void UsePen(const QPen& pen);
+    void DrawOnPixels(QPointF from, QPointF to);
+
     QPainter& painter_;
     double unitsPerTwip_;
     Medium medium_;
     QFont font_;
+    QFontMetricsF metrics_;  ///< of the font on the device
     QColor textColour_ = Qt::black;
-    Qt::PenStyle strokeStyle_ = Qt::SolidLine;
+    QPen strokePen_;
+    int smoothed_ = 0;  ///< strokes so far
 };
 
 }  // namespace kalvane
