@@ -3,17 +3,14 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QGuiApplication>
-#include <QPagedPaintDevice>
 #include <QPainter>
 #include <cmath>
 
-#include "platform/error.h"
 #include "ui/text.h"
 
 namespace kalvane {
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
 constexpr double kTwipsPerPoint = 20;
 constexpr double kPaperStroke = 0.5 * kTwipsPerPoint;
 constexpr double kFontPoints = 9;
@@ -34,11 +31,6 @@ PainterTarget::PainterTarget(QPainter& painter, double unitsPerTwip, Medium medi
     : painter_(painter), unitsPerTwip_(unitsPerTwip), medium_(medium), font_(TextFont()) {
     SetFontPoints(kFontPoints);
     painter_.setRenderHint(QPainter::Antialiasing);
-}
-
-PainterTarget::PainterTarget(QPainter& painter, QPagedPaintDevice& pages)
-    : PainterTarget(painter, pages.logicalDpiX() / kTwipsPerInch, Medium::Paper) {
-    pages_ = &pages;
 }
 
 void PainterTarget::SetFontPoints(double points) {
@@ -79,10 +71,6 @@ float PainterTarget::TextHeight(std::string_view) const {
 float PainterTarget::TextWidth(std::string_view text) const {
     const QFontMetricsF metrics(font_, painter_.device());
     return static_cast<float>(metrics.horizontalAdvance(ToQt(text)) / unitsPerTwip_);
-}
-
-void PainterTarget::NewPage() {
-    if (pages_ != nullptr && !pages_->newPage()) throw Error("不能开始新的一页，请检查打印机。");
 }
 
 }  // namespace kalvane
