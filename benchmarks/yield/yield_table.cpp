@@ -71,30 +71,37 @@ Measured Measure(const Work& work) {
     return {time.count(), PeakMemory() - before};
 }
 
-/// Sums over all demands.
+/// Sums over the demands. Bars are compared where the plan can be cut: not where it overfills a bar, and not
+/// where the run ended with a message.
 struct Total {
     std::int64_t bars = 0;
-    std::int64_t atBound = 0;
-    std::int64_t overfilled = 0;
+    std::int64_t bound = 0;
+    int plans = 0;
+    int atBound = 0;
+    int overfilled = 0;
+    int failed = 0;
     double milliseconds = 0;
     double mebibytes = 0;
 
-    void Add(std::int64_t more, std::int64_t bound, const Measured& measured) {
-        bars += more;
-        atBound += more == bound ? 1 : 0;
+    void Add(std::int64_t planBars, std::int64_t planBound) {
+        bars += planBars;
+        bound += planBound;
+        ++plans;
+        atBound += planBars == planBound ? 1 : 0;
+    }
+    void Add(const Measured& measured) {
         milliseconds += measured.milliseconds;
         mebibytes = std::max(mebibytes, measured.mebibytes);
     }
 };
 
-void PrintTotal(const char* name, const Total& total, std::int64_t bound) {
+void PrintTotal(const char* name, const Total& total) {
     std::printf(
-        "%-9s %6lld bars, %5.2f %% over the bound, at the bound %lld of %d, overfilled %lld, "
-        "%9.1f ms, %5.1f MiB\n",
-        name, static_cast<long long>(total.bars),
-        100.0 * static_cast<double>(total.bars - bound) / static_cast<double>(bound),
-        static_cast<long long>(total.atBound), kDemands, static_cast<long long>(total.overfilled),
-        total.milliseconds, total.mebibytes);
+        "%-9s %2d plans: %6lld bars, %5.2f %% over the bound, at the bound %d; overfilled %d, failed %d; "
+        "all in %.1f ms, at most %.1f MiB\n",
+        name, total.plans, static_cast<long long>(total.bars),
+        100.0 * static_cast<double>(total.bars - total.bound) / static_cast<double>(total.bound),
+        total.atBound, total.overfilled, total.failed, total.milliseconds, total.mebibytes);
 }
 
 int PrintTable() {
@@ -106,7 +113,9 @@ int PrintTable() {
     int faults = 0;
     std::printf(
         "Yield: bars of %d mm, allowance %d mm. Per plan: bars, ms, MiB; ! marks a bar that the rule "
-        "for small pieces overfills.\n",
+        "for small pieces overfills, x a run that tells of a pattern longer than its column, as that rule "
+        "makes "
+        "it of many lengths.\n",
         kSettings.CLC, allowance);
     std::printf("%4s %7s %6s | %6s %7s | %18s | %18s | %18s\n", "seed", "lengths", "pieces", "bound", "ms",
                 "scheme 1", "scheme 2", "GLPK");
@@ -132,7 +141,8 @@ int PrintTable() {
             while (programme.Step()) continue;
             bound = programme.Bars();
         });
-        bounds.Add(bound, bound, bounding);
+        bounds.Add(bound, bound);
+        bounds.Add(bounding);
         std::printf("%4u %7zu %6d | %6lld %7.1f |", seed, demand.size(), pieces,
                     static_cast<long long>(bound), bounding.milliseconds);
 
@@ -141,12 +151,21 @@ int PrintTable() {
                 Measure([&] { RunOptimisation(store.connection, kSettings, scheme, {"A"}, notice, {}); });
             const test::PlanChecker checker{kSettings.CLC, allowance, scheme == 0 ? 0 : kSettings.NODES};
             const test::PlanCheck check = checker.Check(demand, LoadPlan(store.connection));
-            if (!check.faults.empty() || (check.overfilled == 0 && check.bars < bound)) {
-                std::printf(" WRONG: %s", check.faults.c_str());
+            Total& total = totals[scheme];
+            total.Add(measured);
+            if (notice.last.find("最多 100 个字") != std::string::npos) {
+                notice.last.clear();
+                ++total.failed;
+                std::printf("     x %6.1f %4.1f |", measured.milliseconds, measured.mebibytes);
+                continue;
+            }
+            if (!notice.last.empty() || !check.faults.empty() ||
+                (check.overfilled == 0 && check.bars < bound)) {
+                std::printf(" WRONG: %s%s", notice.last.c_str(), check.faults.c_str());
+                notice.last.clear();
                 ++faults;
             }
-            Total& total = totals[scheme];
-            total.Add(check.bars, bound, measured);
+            if (check.overfilled == 0) total.Add(check.bars, bound);
             total.overfilled += check.overfilled;
             std::printf(" %5d%c %6.1f %4.1f |", check.bars, check.overfilled > 0 ? '!' : ' ',
                         measured.milliseconds, measured.mebibytes);
@@ -155,7 +174,8 @@ int PrintTable() {
         PeerPlan peer;
         const Measured solving =
             Measure([&] { peer = SolveWithGlpk(kSettings.CLC, peerDemand, kPeerSeconds); });
-        totals[2].Add(peer.bars, bound, solving);
+        if (peer.bars > 0) totals[2].Add(peer.bars, bound);
+        totals[2].Add(solving);
         std::printf(" %5lld%c %6.0f %4.1f\n", static_cast<long long>(peer.bars), peer.isProven ? ' ' : '~',
                     solving.milliseconds, solving.mebibytes);
         if (peer.bound != bound) {
@@ -168,12 +188,11 @@ int PrintTable() {
         "GLPK: the pattern programme by column generation, then whole bars over its patterns; ~ marks "
         "a plan that was the best after %d s. Its bound is compared with ours.\n",
         kPeerSeconds);
-    PrintTotal("bound", bounds, bounds.bars);
-    PrintTotal("scheme 1", totals[0], bounds.bars);
-    PrintTotal("scheme 2", totals[1], bounds.bars);
-    PrintTotal("GLPK", totals[2], bounds.bars);
-    if (!notice.last.empty()) std::printf("WRONG: %s\n", notice.last.c_str());
-    return faults == 0 && notice.last.empty() ? 0 : 1;
+    PrintTotal("bound", bounds);
+    PrintTotal("scheme 1", totals[0]);
+    PrintTotal("scheme 2", totals[1]);
+    PrintTotal("GLPK", totals[2]);
+    return faults == 0 ? 0 : 1;
 }
 
 }  // namespace

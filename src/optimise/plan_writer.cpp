@@ -1,30 +1,27 @@
 #include "optimise/plan_writer.h"
 
 #include "platform/error.h"
-#include "store/command_scope.h"
 
 namespace kalvane {
 
 RunEnd PlanWriter::Write(const std::function<void()>& work) {
     RunEnd end = RunEnd::Finished;
-    bool workEnded = false;
+    written_.clear();
+    scope_.emplace(connection_);
     try {
-        InCommand(connection_, [&] {
-            connection_.Execute("Delete from 优化结果");
-            try {
-                work();
-            } catch (const RunCancelled&) {
-                end = RunEnd::Cancelled;
-            }
-            workEnded = true;
-        });
-    } catch (const StoreError&) {
-        Restore();
-        // An optimiser that goes on after a failed row has told the operator of it.
-        if (workEnded && storeFailed_) return end;
+        connection_.Execute("Delete from 优化结果");
+        work();
+    } catch (const RunCancelled&) {
+        end = RunEnd::Cancelled;
+    } catch (...) {
+        try {
+            Finish();
+        } catch (const StoreError&) {
+            // The failure that ended the work says enough.
+        }
         throw;
     }
-    if (storeFailed_) Restore();
+    Finish();
     return end;
 }
 
@@ -32,23 +29,32 @@ void PlanWriter::Add(const PlanRow& row) {
     try {
         InsertPlanRow(connection_, row);
     } catch (const StoreError&) {
-        storeFailed_ = true;
+        if (scope_->IsUndone()) {
+            scope_.reset();
+            Restore();
+            scope_.emplace(connection_);
+        }
         throw;
     }
     written_.push_back(row);
 }
 
-void PlanWriter::Rewrite() {
-    connection_.Execute("Delete from 优化结果");
-    for (const PlanRow& row : written_) InsertPlanRow(connection_, row);
+void PlanWriter::Finish() {
+    try {
+        scope_->Finish();
+        scope_.reset();
+    } catch (const StoreError&) {
+        scope_.reset();
+        Restore();
+        throw;
+    }
 }
 
-/// A full disk undoes the whole command, the rows before the failure too. They are written once more, as one
-/// command or, if that does not go through, each for itself until the disk takes no more. The failure itself
-/// is already on its way to the operator.
+/// Brings the rows back as one command or, if that does not go through, each for itself until the disk takes
+/// no more. The failure itself is already on its way to the operator.
 void PlanWriter::Restore() {
     try {
-        InCommand(connection_, [&] { Rewrite(); });
+        InCommand(connection_, [this] { Rewrite(); });
         return;
     } catch (const StoreError&) {
     }
@@ -56,6 +62,11 @@ void PlanWriter::Restore() {
         Rewrite();
     } catch (const StoreError&) {
     }
+}
+
+void PlanWriter::Rewrite() {
+    connection_.Execute("Delete from 优化结果");
+    for (const PlanRow& row : written_) InsertPlanRow(connection_, row);
 }
 
 }  // namespace kalvane

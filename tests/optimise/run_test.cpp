@@ -138,7 +138,7 @@ TEST_F(RunTest, NumbersBeyondSixteenBitsFail) {
 
 TEST_F(RunTest, PlansCutExactlyTheDemand) {
     const auto seed = static_cast<unsigned>(testing::UnitTest::GetInstance()->random_seed());
-    SCOPED_TRACE("seed " + std::to_string(seed));  // 0 unless --gtest_random_seed names one
+    SCOPED_TRACE("seed " + std::to_string(seed));  // --gtest_random_seed repeats it
     std::mt19937 random(seed);
     const auto pick = [&random](int from, int to) {
         return std::uniform_int_distribution<int>(from, to)(random);
@@ -152,9 +152,11 @@ TEST_F(RunTest, PlansCutExactlyTheDemand) {
         settings.YHBL = round % 3 == 0 ? 0.95F : 1.0F;
         const auto scheme = static_cast<std::int16_t>(round % 2);
         std::map<int, int> demand;
-        for (int i = pick(1, 12); i > 0; --i) {
-            const int length = pick(400, 3300);
-            const int count = pick(1, 15);
+        const bool isShort = round % 8 == 1;  // three pieces in a sample are far from filling a bar
+        if (isShort) settings.NODES = 3;
+        for (int i = isShort ? 3 : pick(1, 12); i > 0; --i) {
+            const int length = pick(400, isShort ? 600 : 3300);
+            const int count = isShort ? 15 : pick(1, 15);
             demand[length] += count;
             Demand("A", {{length, count}});
         }
@@ -172,7 +174,7 @@ TEST_F(RunTest, PlansCutExactlyTheDemand) {
         while (bound.Step()) continue;
         EXPECT_TRUE(check.overfilled > 0 || bound.Bars() <= check.bars);
     }
-    EXPECT_GT(overfilled, 0);  // the smallest samples are shorter than a bar
+    EXPECT_GE(overfilled, 3);
     EXPECT_TRUE(notice_.shown.empty());
 }
 
