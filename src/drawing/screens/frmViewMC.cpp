@@ -20,7 +20,8 @@
 namespace kalvane {
 namespace {
 
-constexpr QSize kFirstSize(860, 540);
+constexpr QSize kFirstSize(900, 540);
+constexpr int kFilesWidth = 240;
 const QString kTitle = QStringLiteral("提示");
 const QString kParent = QStringLiteral("..");
 
@@ -50,6 +51,9 @@ frmViewMC::frmViewMC(QWidget* parent)
     drive_->setObjectName(QStringLiteral("Drive1"));
     folders_->setObjectName(QStringLiteral("Dir1"));
     files_->setObjectName(QStringLiteral("File1"));
+    drive_->setPlaceholderText(QStringLiteral("选择位置"));
+    drive_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // as wide as the list below
+    files_->setMinimumWidth(kFilesWidth);
     folderLabel_->setWordWrap(true);
     folderLabel_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定"), this);
@@ -64,9 +68,9 @@ frmViewMC::frmViewMC(QWidget* parent)
     places->addWidget(folders_, 1, 0);
     places->addWidget(files_, 1, 1);
     places->addWidget(picture_, 1, 2);
-    places->setColumnStretch(0, 2);
-    places->setColumnStretch(1, 2);
-    places->setColumnStretch(2, 4);
+    places->setColumnStretch(0, 3);
+    places->setColumnStretch(1, 4);
+    places->setColumnStretch(2, 7);
     LayOutAboveButtons(this, body, {ok, cancel});
     resize(kFirstSize);
 
