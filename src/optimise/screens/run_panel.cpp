@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QStatusBar>
 
 #include "platform/assertion.h"
 #include "ui/command_buttons.h"
@@ -40,6 +41,9 @@ class RunPanel::Running {
         panel_.sinceEvents_.start();
         for (QWidget* control : panel_.screen_->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
             if (control == &panel_ || control->isWindow() || !control->isEnabled()) continue;
+            const bool onlyTells =
+                qobject_cast<QLabel*>(control) != nullptr || qobject_cast<QStatusBar*>(control) != nullptr;
+            if (onlyTells) continue;
             control->setEnabled(false);
             disabled_ << control;
         }
