@@ -141,8 +141,13 @@ class MainScreenTest : public ScreenTest {
 TEST_F(MainScreenTest, RightsEnableEntries) {
     const char* const cases[][2] = {
         {"111111111111",
-         "mnuProject mnuYouhua mnuExit mnuChangeBackgroup mnuClearCK mnuAbout mnuHelps x4 x5 x7 x8"},
-        {"111001110110", "mnuExit mnuAbout mnuHelps x7 x8"},
+         "mnuProject mnuYouhua mnuExit mnuDatabaseManage mnuPath mnuChangeBackgroup mnuUserMng mnuMdifyPwd "
+         "mnuClearCK mnuAbout mnuHelps x4 x5 x6 x7 x8"},
+        {"111001000000", "mnuExit mnuAbout mnuHelps x7 x8"},
+        {"000000100000", "mnuExit mnuDatabaseManage mnuAbout mnuHelps x6 x7 x8"},
+        {"000000010000", "mnuExit mnuPath mnuAbout mnuHelps x7 x8"},
+        {"000000000100", "mnuExit mnuUserMng mnuAbout mnuHelps x7 x8"},
+        {"000000000010", "mnuExit mnuMdifyPwd mnuAbout mnuHelps x7 x8"},
         {"000100000000", "mnuProject mnuExit mnuAbout mnuHelps x4 x7 x8"},
         {"000010000000", "mnuYouhua mnuExit mnuAbout mnuHelps x5 x7 x8"},
         {"000000001000", "mnuExit mnuChangeBackgroup mnuAbout mnuHelps x7 x8"},
@@ -170,10 +175,15 @@ TEST_F(MainScreenTest, EntriesAndButtonsOpenTheirScreens) {
         ASSERT_EQ(children.size(), 1) << command;
         EXPECT_EQ(children[0]->widget()->objectName(), QStringLiteral("frmMCGCGL"));
     }
-    for (const char* command : {"mnuYouhua", "x5"}) {
-        ModalScript().On("frmYHMain", [](QDialog&) {}).Run([&] { Trigger(frame, command); });
+    const char* const modal[][2] = {
+        {"mnuYouhua", "frmYHMain"},         {"x5", "frmYHMain"},
+        {"mnuDatabaseManage", "frmTools"},  {"x6", "frmTools"},
+        {"mnuPath", "frmSetting"},          {"mnuUserMng", "frmUserMng"},
+        {"mnuMdifyPwd", "frmUserChangPwd"}, {"mnuAbout", "frmAbort"},
+    };
+    for (const auto& [command, screen] : modal) {
+        ModalScript().On(screen, [](QDialog&) {}).Run([&] { Trigger(frame, command); });
     }
-    ModalScript().On("frmAbort", [](QDialog&) {}).Run([&] { Trigger(frame, "mnuAbout"); });
     QString help;
     ModalScript()
         .On("frmHelp", [&](QDialog& s) { help = Find<QPlainTextEdit>(&s, "Text1")->toPlainText(); })
