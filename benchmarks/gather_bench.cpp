@@ -1,11 +1,11 @@
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
-#include <fstream>
 #include <string>
 #include <vector>
 
 #include "optimise/demand.h"
+#include "peak_memory.h"
 #include "scratch_store.h"
 #include "store/command_scope.h"
 
@@ -16,19 +16,6 @@ constexpr int kWindows = 1000;
 constexpr int kTypes = 12;
 constexpr int kProfileRows = 14;
 constexpr int kSteelRows = 6;
-
-/// Peak memory of this process in MiB since it was last reset.
-double PeakMemory() {
-    std::ifstream status("/proc/self/status");
-    for (std::string line; std::getline(status, line);) {
-        if (line.starts_with("VmHWM:")) return std::stod(line.substr(6)) / 1024;
-    }
-    return 0;
-}
-
-void ResetPeakMemory() {
-    std::ofstream("/proc/self/clear_refs") << "5";
-}
 
 /// A project of windows with five labels each, of types with profile and steel rows.
 void FillProject(Connection& connection) {
@@ -60,15 +47,15 @@ void GatherThousandWindows(benchmark::State& state) {
     bench::ScratchStore store;
     FillProject(store.connection);
     const std::vector<DemandWindow> windows = ListDemandWindows(store.connection, "1");
-    ResetPeakMemory();
-    const double before = PeakMemory();
+    bench::ResetPeakMemory();
+    const double before = bench::PeakMemory();
     for (auto _ : state) {
         state.PauseTiming();
         store.connection.Execute("Delete from 优化数据");
         state.ResumeTiming();
         GatherDemand(store.connection, windows);
     }
-    state.counters["peakMiB"] = PeakMemory() - before;
+    state.counters["peakMiB"] = bench::PeakMemory() - before;
     state.counters["rows"] = store.connection.OpenCursor("Select count(*) from 优化数据").Field(0).Number();
 }
 BENCHMARK(GatherThousandWindows)->Unit(benchmark::kMillisecond);

@@ -33,7 +33,7 @@ void LinearThousandPieces(benchmark::State& state) {
     const OptimiseSettings settings{6000, 10, 5, 0, 1, "", static_cast<std::int16_t>(state.range(0))};
     SilentNotice notice;
     for (auto _ : state) {
-        RunOptimisation(store.connection, settings, 1, {"A"}, notice, nullptr);
+        RunOptimisation(store.connection, settings, 1, {"A"}, notice, {});
     }
     if (!notice.last.empty()) state.SkipWithError(notice.last.c_str());
     Cursor plan =

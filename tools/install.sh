@@ -4,7 +4,7 @@ PACKAGES=(
     g++ cmake ninja-build ccache mold pkg-config
     qt6-base-dev libqt6svg6-dev libgl-dev
     libsqlite3-dev libxlsxwriter-dev zlib1g-dev libcli11-dev
-    libgtest-dev
+    libgtest-dev libzip-dev libpugixml-dev
     fonts-noto-cjk
 )
 

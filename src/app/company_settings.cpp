@@ -1,30 +1,46 @@
 #include "app/company_settings.h"
 
+#include "app/startup.h"
 #include "platform/settings_store.h"
 #include "store/store_files.h"
 
 namespace kalvane {
+namespace {
 
-CompanySettings ReadCompanySettings(const SettingsStore& store, const std::filesystem::path& folder) {
-    const auto company = [&](std::string_view key) {
-        return store.Read(kSettingsApplication, kSectionMain, key, "");
+constexpr std::int16_t kWindCheckHere = 0;
+
+}  // namespace
+
+CompanySettings LoadCompanySettings(AppState& state) {
+    const auto read = [&](std::string_view key) {
+        return state.settings->Read(kSettingsApplication, kSectionMain, key, "");
     };
-    const auto path = [&](std::string_view key, const char* name) {
-        return store.Read(kSettingsPathsApplication, kSectionPaths, key, (folder / name).string());
+    const auto path = [&](std::string_view key, std::string_view store) {
+        return state.settings->Read(kSettingsPathsApplication, kSectionPaths, key,
+                                    (state.folder / store).string());
     };
-    return {company("DW"), company("TEL"), company("ADDRESS"), path("CLMDBPATH", kMainStoreName),
+    ReadOutputSettings(state, kWindCheckHere);
+    return {read("DW"),
+            read("TEL"),
+            read("ADDRESS"),
+            state.outputFileType != 0,
+            state.windCheckOption != 0,
+            path("CLMDBPATH", kMainStoreName),
             path("CKMDBPATH", kStockStoreName)};
 }
 
-void SaveCompanySettings(SettingsStore& store, const CompanySettings& settings, bool toTextFile,
-                         bool shortWindCheck) {
-    store.Save(kSettingsApplication, kSectionMain, "DW", settings.name);
-    store.Save(kSettingsApplication, kSectionMain, "TEL", settings.telephone);
-    store.Save(kSettingsApplication, kSectionMain, "ADDRESS", settings.address);
-    store.Save(kSettingsPathsApplication, kSectionPaths, "CLMDBPATH", settings.mainStorePath);
-    store.Save(kSettingsPathsApplication, kSectionPaths, "CKMDBPATH", settings.stockStorePath);
-    store.Save(kSettingsApplication, kSectionMain, "OutPutFileType", toTextFile ? "1" : "0");
-    store.Save(kSettingsApplication, kSectionMain, "FYOPTION", shortWindCheck ? "1" : "0");
+void SaveCompanySettings(AppState& state, const CompanySettings& settings) {
+    const auto save = [&](std::string_view key, std::string_view text) {
+        state.settings->Save(kSettingsApplication, kSectionMain, key, text);
+    };
+    save("DW", settings.company);
+    save("TEL", settings.telephone);
+    save("ADDRESS", settings.address);
+    state.settings->Save(kSettingsPathsApplication, kSectionPaths, "CLMDBPATH", settings.mainStore);
+    state.settings->Save(kSettingsPathsApplication, kSectionPaths, "CKMDBPATH", settings.stockStore);
+    save("OutPutFileType", settings.textOutput ? "1" : "0");
+    save("FYOPTION", settings.shortWindCheck ? "1" : "0");
+    ReadOutputSettings(state, kWindCheckHere);
 }
 
 }  // namespace kalvane

@@ -1,27 +1,28 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
+
+#include "app/app_state.h"
 
 namespace kalvane {
 
-class SettingsStore;
-
-/// What the settings screen keeps as texts, besides the two choices of AppState.
+/// What the settings screen shows and stores.
 struct CompanySettings {
-    std::string name;
+    std::string company;
     std::string telephone;
     std::string address;
-    std::string mainStorePath;  ///< shown only: the stores are those of the start-up folder
-    std::string stockStorePath;
+    bool textOutput = false;      ///< outputs go to a text file, else to a spreadsheet
+    bool shortWindCheck = false;  ///< the wind check uses the short model, else the standard one
+    std::string mainStore;        ///< paths for the operator's information; the stores are opened from
+    std::string stockStore;       ///< the start-up folder whatever stands here
 };
 
-/// `folder` is the start-up folder, from which the paths that were never saved are made.
-CompanySettings ReadCompanySettings(const SettingsStore& store, const std::filesystem::path& folder);
+/// Reads the settings. The two choices are read into `state` anew, and the wind check counts as standard here
+/// when it was never saved, unlike at the start of the program.
+CompanySettings LoadCompanySettings(AppState& state);
 
-/// Saves the texts as they stand, then the type of the output files and the model of the wind check, "0" or
-/// "1". Throws FileError.
-void SaveCompanySettings(SettingsStore& store, const CompanySettings& settings, bool toTextFile,
-                         bool shortWindCheck);
+/// Saves the settings as they stand and brings the two choices into force. Throws FileError when the settings
+/// cannot be written.
+void SaveCompanySettings(AppState& state, const CompanySettings& settings);
 
 }  // namespace kalvane

@@ -7,7 +7,7 @@
 
 #include "app/help_text.h"
 #include "app/starter_library.h"
-#include "app/user_admin.h"
+#include "app/user_accounts.h"
 #include "platform/files.h"
 #include "store/connection.h"
 #include "store/starter_files.h"
@@ -17,8 +17,8 @@ namespace kalvane {
 namespace {
 
 void FillUsers(Connection& users) {
-    AddUser(users, "Admin", "admin888", "111111111111");
-    AddUser(users, "user", "user888", "000111001011");
+    AddUserAccount(users, "Admin", "admin888", "111111111111");
+    AddUserAccount(users, "user", "user888", "000111001011");
 }
 
 /// Makes a store under a passing name, fills it, and gives it its own name only then.

@@ -4,6 +4,7 @@
 
 #include "drawing/box_mapping.h"
 #include "drawing/drawing_library.h"
+#include "drawing/dxf_import.h"
 #include "drawing/mc_file.h"
 #include "drawing/shapes.h"
 #include "platform/code_page.h"
@@ -11,9 +12,22 @@
 #include "platform/notice.h"
 
 namespace kalvane {
+namespace {
+
+constexpr int kMostTellings = 50;
+constexpr std::uintmax_t kLargestFile = 64U << 20U;  // a full drawing takes a tenth of a megabyte
+
+}  // namespace
 
 void CPictire::TellFull() const {
     notice_->Show("数组超出范围,请与程序员联系", "#Error", NoticeIcon::None);
+}
+
+CPictire::TellingLimit::TellingLimit(CPictire& picture)
+    : picture_(picture),
+      all_(picture.notice_),
+      limited_(*all_, kMostTellings, "后面还有超出范围的图元，不再逐个提示。") {
+    picture_.notice_ = &limited_;
 }
 
 bool CPictire::PointInBox(Point point, Point& cornerA, Point& cornerB) {
@@ -67,6 +81,22 @@ void CPictire::ClearData() {
     arcs_.Clear();
 }
 
+DrawingItems CPictire::Items() const {
+    return {{lines_.begin(), lines_.end()},           {rectangles_.begin(), rectangles_.end()},
+            {dimensions_.begin(), dimensions_.end()}, {arrows_.begin(), arrows_.end()},
+            {strings_.begin(), strings_.end()},       {arcs_.begin(), arcs_.end()}};
+}
+
+void CPictire::SetItems(const DrawingItems& items) {
+    ClearData();
+    for (const LineItem& item : items.lines) AddLine(item);
+    for (const RectangleItem& item : items.rectangles) AddRec(item);
+    for (const DimensionItem& item : items.dimensions) AddDim(item);
+    for (const ArrowItem& item : items.arrows) AddDir(item);
+    for (const TextItem& item : items.strings) AddString(item);
+    for (const ArcItem& item : items.arcs) AddArc(item);
+}
+
 void CPictire::GetStrings(std::span<float> xs, std::span<float> ys, std::span<std::string> texts) const {
     const auto count = static_cast<std::size_t>(strings_.Count());
     KALVANE_ASSERT(xs.size() >= count && ys.size() >= count && texts.size() >= count);
@@ -88,6 +118,7 @@ void CPictire::SaveFileEx(Connection& connection, std::string_view number, std::
 }
 
 void CPictire::OpenFileEX(Connection& connection, std::string_view number) {
+    const TellingLimit limit(*this);
     LoadPrimitives(connection, number, *this);
 }
 
@@ -96,13 +127,19 @@ void CPictire::SavePicture(const std::filesystem::path& path) const {
 }
 
 void CPictire::Open_File(const std::filesystem::path& path) {
+    RequirePlainFile(path, kLargestFile);
     const std::string text = DecodeFileText(ReadFile(path));
     lines_.Clear();
     rectangles_.Clear();
     dimensions_.Clear();
     arrows_.Clear();
     strings_.Clear();
+    const TellingLimit limit(*this);
     ReadMcText(text, *this);
+}
+
+void CPictire::InputDXF(const std::filesystem::path& path) {
+    ImportDxf(path, *this);
 }
 
 void CPictire::PrintPic(PaintTarget& target, const Box& source, const Box& destination) const {
@@ -111,6 +148,28 @@ void CPictire::PrintPic(PaintTarget& target, const Box& source, const Box& desti
 
 void CPictire::OutMCNoStr(PaintTarget& target, const Box& source, const Box& destination) const {
     Paint(target, source, destination, false);
+}
+
+void CPictire::PrintPicture(PageTarget& page) const {
+    if (lines_.Empty() && rectangles_.Empty() && arrows_.Empty() && dimensions_.Empty() && strings_.Empty()) {
+        notice_->Show("图形为空!", "#Error", NoticeIcon::None);
+        return;
+    }
+    PrintPic(page, kFrame, kFrame);
+    PrintEnd(page);
+}
+
+void CPictire::PrintTemplate01(PageTarget& page, Connection& connection, const ComponentSheet& sheet) {
+    OpenFileEX(connection, sheet.drawingNumber);
+    OutMCNoStr(page, kFrame, kSheetDrawingBox);
+    PaintComponentSheet(page, sheet);
+}
+
+void CPictire::PrintTemp02(PageTarget& page, Connection& connection, std::string_view number,
+                           std::span<const PageLabel> labels) {
+    OpenFileEX(connection, number);
+    OutMCNoStr(page, kFrame, kDrawingPageBox);
+    PaintLabels(page, labels);
 }
 
 void CPictire::Paint(PaintTarget& target, const Box& source, const Box& destination, bool withTexts) const {

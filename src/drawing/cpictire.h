@@ -6,21 +6,30 @@
 #include <string>
 #include <string_view>
 
-#include "drawing/paint_target.h"
+#include "drawing/drawing_items.h"
+#include "drawing/drawing_tool.h"
+#include "drawing/page_templates.h"
 #include "drawing/primitive_list.h"
 #include "drawing/primitives.h"
+#include "platform/notice_limit.h"
 
 namespace kalvane {
 
+class Canvas;
 class Connection;
-class Notice;
+class StatusBar;
+class TextForm;
 
 /// One drawing: up to 361 items of each kind, in drawing units. Copies are independent, so a screen that
-/// repaints keeps one of its own.
+/// repaints keeps one of its own. On the drawing desk it also runs the tools.
 class CPictire {
   public:
     /// `notice` must outlive the drawing and its copies.
     explicit CPictire(Notice& notice) : notice_(&notice) {}
+
+    /// While it lives, the operator is told of the first fifty items that find their kind full, then once
+    /// that there are more: for loads, where each box would have to be confirmed before the next.
+    class TellingLimit;
 
     // Adds one item. When the kind is full the operator is told, the item is dropped and work goes on.
     void AddLine(const LineItem& item) { Add(lines_, item); }
@@ -54,6 +63,10 @@ class CPictire {
     /// Empties all six kinds.
     void ClearData();
 
+    DrawingItems Items() const;
+    /// Puts other items in place of all that is held; at most 361 of a kind.
+    void SetItems(const DrawingItems& items);
+
     const PrimitiveList<LineItem>& Lines() const { return lines_; }
     const PrimitiveList<RectangleItem>& Rectangles() const { return rectangles_; }
     const PrimitiveList<DimensionItem>& Dimensions() const { return dimensions_; }
@@ -79,13 +92,16 @@ class CPictire {
     /// Throws StoreError, and NumericError for a coordinate that is Null.
     void OpenFileEX(Connection& connection, std::string_view number);
 
-    /// Writes a drawing file; see mc_file.h. Arcs are not in it. Throws FileError, also for a text that GBK
-    /// does not hold; an existing file then stays as it was.
+    /// Writes a drawing file; see mc_file.h. Arcs are not in it. Throws FileError, and its kind CodePageError
+    /// for a text that GBK does not hold; an existing file then stays as it was.
     void SavePicture(const std::filesystem::path& path) const;
 
     /// Reads a drawing file in place of all items but the arcs, which stay. Throws FileError with nothing
-    /// changed when it cannot be read, and NumericError as ReadMcText does.
+    /// changed when it cannot be read or is far too large, and NumericError as ReadMcText does.
     void Open_File(const std::filesystem::path& path);
+
+    /// Reads a DXF file in place of all items. ImportDxf is the same and tells what came in.
+    void InputDXF(const std::filesystem::path& path);
 
     /// Paints all items with the source box stretched over the destination box: lines, rectangles, arrows,
     /// dimension marks, texts, arcs, in this order. Throws NumericError for a source box without width or
@@ -95,7 +111,68 @@ class CPictire {
     /// As PrintPic without the texts: for pictures that carry values in their place.
     void OutMCNoStr(PaintTarget& target, const Box& source, const Box& destination) const;
 
+    /// Prints the drawing in its own size as one document. A drawing that holds nothing but arcs counts as
+    /// empty: the operator is told and nothing is printed.
+    void PrintPicture(PageTarget& page) const;
+
+    /// Ends the document.
+    static void PrintEnd(PageTarget& page) { page.EndDocument(); }
+
+    /// Prints a component sheet: opens its drawing, as OpenFileEX adds to what is held, and paints the
+    /// drawing without its texts, head, labels and table, continued on further pages. Does not end the
+    /// document. Throws as OpenFileEX.
+    void PrintTemplate01(PageTarget& page, Connection& connection, const ComponentSheet& sheet);
+
+    /// Prints the bare drawing page: the drawing without its texts, and the labels.
+    void PrintTemp02(PageTarget& page, Connection& connection, std::string_view number,
+                     std::span<const PageLabel> labels);
+
+    // --- On the drawing desk: bind canvas, status bar and text dialog before anything below. They are not
+    // owned and must outlive the drawing.
+
+    void SetPicture(Canvas& canvas) { canvas_ = &canvas; }
+    void SetStatu(StatusBar& statusBar) { statusBar_ = &statusBar; }
+    void SetTextForm(TextForm& textForm) { textForm_ = &textForm; }
+
+    /// Name of the tool in progress (drawing_tool.h), empty when idle.
+    const std::string& GetCurDraw() const { return tool_.curDraw; }
+    const ToolState& Tool() const { return tool_; }
+
+    // The tools. Each paints on the canvas what it makes and tells the status bar what it wants next. A
+    // cancel returns any of them to idle and drops the transient shape; only that of the delete tool also
+    // makes the line style solid again.
+
+    /// A chain of lines from point to point, until it is cancelled.
+    void StepDrawLine(ToolOp op, float x, float y);
+    /// One rectangle by two corners.
+    void StepDrawRec(ToolOp op, float x, float y);
+    /// One arrow, tail first.
+    void StepDrawDir(ToolOp op, float x, float y);
+    /// One dimension mark by its two measured points and the place of the dimension line.
+    void StepDrawDiM(ToolOp op, float x, float y);
+    /// One text item: its place, then the text dialog, where an empty text gives it up.
+    void StepDrawString(ToolOp op, float x, float y);
+    /// Deletes everything with a stored point in the box between two corners, and repaints.
+    void StepDel(ToolOp op, float x, float y);
+    /// One arc by start, end and direction point.
+    void StepDrawArc(ToolOp op, float x, float y);
+
+    /// Paints the dots of a grid that divides the canvas into so many columns and rows.
+    void Draw_Gird(std::int16_t columns, std::int16_t rows);
+
+    /// Clears the canvas, paints the desk's grid and empties all six kinds.
+    void PicClear();
+
+    /// Clears the canvas and paints the drawing in its own size, then the desk's grid.
+    void Repaint();
+
   private:
+    struct ToolRule;
+    void Step(const ToolRule& rule, ToolOp op, Point at);
+    void CancelTool();
+    void CancelDelete();
+    void DeleteInBox();
+
     template <typename Item>
     void Add(PrimitiveList<Item>& list, const Item& item) {
         if (!list.Add(item)) TellFull();
@@ -112,6 +189,23 @@ class CPictire {
     float xScale_ = 1;
     float yScale_ = 1;
     Notice* notice_;
+    ToolState tool_;
+    Canvas* canvas_ = nullptr;
+    StatusBar* statusBar_ = nullptr;
+    TextForm* textForm_ = nullptr;
+};
+
+class CPictire::TellingLimit {
+  public:
+    explicit TellingLimit(CPictire& picture);
+    TellingLimit(const TellingLimit&) = delete;
+    TellingLimit& operator=(const TellingLimit&) = delete;
+    ~TellingLimit() { picture_.notice_ = all_; }
+
+  private:
+    CPictire& picture_;
+    Notice* all_;
+    NoticeLimit limited_;
 };
 
 }  // namespace kalvane

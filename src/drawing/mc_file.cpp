@@ -2,12 +2,12 @@
 
 #include <array>
 #include <initializer_list>
+#include <sstream>
 #include <utility>
 
 #include "drawing/cpictire.h"
+#include "drawing/token_reader.h"
 #include "numeric/number.h"
-#include "numeric/text.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {
@@ -36,33 +36,6 @@ class Writer {
     std::string text_;
 };
 
-/// Splits a file's text at line ends and commas.
-class Tokens {
-  public:
-    explicit Tokens(std::string_view text) : rest_(text) {}
-
-    bool AtEnd() const { return rest_.empty(); }
-    int LineNumber() const { return line_; }
-
-    std::string_view Next() {
-        if (atLineStart_) ++line_;
-        const std::size_t length = rest_.find_first_of(",\r\n");
-        const std::string_view token = rest_.substr(0, length);
-        atLineStart_ = length != std::string_view::npos && rest_[length] != ',';
-        if (length == std::string_view::npos) {
-            rest_ = {};
-        } else {
-            rest_.remove_prefix(length + (rest_.substr(length, 2) == kLineEnd ? 2 : 1));
-        }
-        return Trim(token);
-    }
-
-  private:
-    std::string_view rest_;
-    int line_ = 0;
-    bool atLineStart_ = true;
-};
-
 enum class Section { Line, Rectangle, Arrow, Dimension, String, Arc };
 
 struct Keyword {
@@ -76,7 +49,7 @@ constexpr Keyword kKeywords[] = {{"Line", Section::Line},     {"Rec", Section::R
 
 class Reader {
   public:
-    Reader(std::string_view text, CPictire& picture) : tokens_(text), picture_(picture) {}
+    Reader(std::streambuf& text, CPictire& picture) : tokens_(text), picture_(picture) {}
 
     void Run() {
         while (!tokens_.AtEnd()) {
@@ -104,7 +77,7 @@ class Reader {
             field_ = 0;
             return;
         }
-        numbers_[field_] = Number(token);
+        numbers_[field_] = tokens_.ToFloat(token);
         ++field_;
         const bool threePoints = section_ == Section::Dimension || section_ == Section::Arc;
         if (section_ != Section::String && field_ == (threePoints ? 6U : 4U)) {
@@ -135,17 +108,9 @@ class Reader {
         }
     }
 
-    float Number(std::string_view token) const {
-        if (!IsNumeric(token)) {
-            throw NumericError("图形文件第 " + std::to_string(tokens_.LineNumber()) + " 行的“" +
-                               std::string(token) + "”不是数字。");
-        }
-        return NarrowToFloat(ParseNumber(token));
-    }
-
     Point At(std::size_t point) const { return {numbers_[2 * point], numbers_[2 * point + 1]}; }
 
-    Tokens tokens_;
+    TokenReader tokens_;
     CPictire& picture_;
     Section section_ = Section::Line;
     std::size_t field_ = 0;
@@ -173,7 +138,8 @@ std::string McText(const CPictire& picture) {
 }
 
 void ReadMcText(std::string_view utf8, CPictire& picture) {
-    Reader(utf8, picture).Run();
+    std::stringbuf text{std::string(utf8), std::ios::in};
+    Reader(text, picture).Run();
 }
 
 }  // namespace kalvane

@@ -23,6 +23,15 @@ class MCPicture {
     void SaveFileEx(Connection& connection, std::string_view number, std::string_view name) const {
         picture_.SaveFileEx(connection, number, name);
     }
+    /// The component sheet and the bare drawing page.
+    void PrintTMP(PageTarget& page, Connection& connection, const ComponentSheet& sheet) {
+        picture_.PrintTemplate01(page, connection, sheet);
+    }
+    void PrintTMP02(PageTarget& page, Connection& connection, std::string_view number,
+                    std::span<const PageLabel> labels) {
+        picture_.PrintTemp02(page, connection, number, labels);
+    }
+
     void ClearData() { picture_.ClearData(); }
     void GetStrings(std::span<float> xs, std::span<float> ys, std::span<std::string> texts) const {
         picture_.GetStrings(xs, ys, texts);

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
+#include "numeric/number.h"
 #include "numeric/text.h"
+#include "optimise/row_complaints.h"
 #include "platform/code_page.h"
 #include "platform/error.h"
 #include "platform/files.h"
@@ -24,21 +27,43 @@ std::string TakeField(std::string_view& rest) {
     return field;
 }
 
+/// Number of the line behind the text that was read so far.
+int LineBehind(std::string_view read) {
+    const char end = read.find('\n') == std::string_view::npos ? '\r' : '\n';
+    return 1 + static_cast<int>(std::count(read.begin(), read.end(), end));
+}
+
 }  // namespace
+
+bool IsPlainNumber(std::string_view text) {
+    return text.find_first_not_of("0123456789.") == std::string_view::npos && IsNumeric(text);
+}
 
 void ReadDemandFile(const std::filesystem::path& path, std::vector<ManualRow>& rows) {
     const std::string text = DecodeFileText(ReadFile(path));
     std::string_view rest = text;
+    const char* const begin = rest.data();
     // Blank lines at the end are no row: other editors like to leave some.
     while (!rest.empty() && std::string_view(" \r\n").find(rest.back()) != std::string_view::npos) {
         rest.remove_suffix(1);
     }
+    RowComplaints complaints;
     while (!rest.empty()) {
-        std::string length = TakeField(rest);
+        const int line = LineBehind({begin, rest.data()});
+        ManualRow row{TakeField(rest), {}};
         if (rest.empty()) {
-            throw FileError("文件“" + path.string() + "”不完整：长度“" + length + "”后缺少数量。");
+            complaints.Add(line, "长度“" + row.length + "”后缺少数量");
+            break;
         }
-        rows.push_back({std::move(length), TakeField(rest)});
+        row.count = TakeField(rest);
+        if (IsPlainNumber(row.length) && IsPlainNumber(row.count)) {
+            rows.push_back(std::move(row));
+        } else {
+            complaints.Add(line, "长度“" + row.length + "”、数量“" + row.count + "”不是数字");
+        }
+    }
+    if (!complaints.IsEmpty()) {
+        throw FileError("文件“" + path.string() + "”" + complaints.Message());
     }
 }
 

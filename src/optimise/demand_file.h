@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kalvane {
@@ -12,9 +13,12 @@ struct ManualRow {
     std::string count;
 };
 
+/// True for digits with at most one point among them, which is all that a row is typed with.
+bool IsPlainNumber(std::string_view text);
+
 /// Reads a .DDD file: a length and a count per round, each field ended by a line end or a comma. The rows
-/// are added behind those in `rows`. Throws FileError when the file cannot be read or ends within a row;
-/// the whole rows before are in `rows` then.
+/// are added behind those in `rows`. Throws FileError when the file cannot be read, ends within a row or
+/// has rows that are no plain numbers; the whole, good rows are in `rows` then.
 void ReadDemandFile(const std::filesystem::path& path, std::vector<ManualRow>& rows);
 
 /// Writes a .DDD file as one step: two lines per row, length and count, each ended by carriage return and

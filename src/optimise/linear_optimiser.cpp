@@ -1,11 +1,9 @@
 #include "optimise/linear_optimiser.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "numeric/number.h"
 #include "optimise/pattern_text.h"
-#include "optimise/plan.h"
 #include "platform/error.h"
 
 namespace kalvane {
@@ -18,9 +16,11 @@ float Percent(float ratio) {
 
 }  // namespace
 
-LinearOptimiser::LinearOptimiser(Connection& connection, const OptimiseSettings& settings, Notice& notice,
-                                 std::function<void()> tick)
-    : connection_(connection), settings_(settings), notice_(notice), search_(notice, std::move(tick)) {}
+LinearOptimiser::LinearOptimiser(PlanWriter& plan, const OptimiseSettings& settings, Notice& notice,
+                                 RunReporter& reporter)
+    : plan_(plan), settings_(settings), notice_(notice), reporter_(reporter), search_(notice, [this] {
+          reporter_.Tick();
+      }) {}
 
 void LinearOptimiser::OptimiseLinear(const std::string& name, std::int16_t stock, Cursor& demand) {
     try {
@@ -38,6 +38,7 @@ void LinearOptimiser::LoadPieces(Cursor& demand) {
         const std::int64_t length = RoundToInt32(demand.Field(0).Number());
         for (int i = 0; i < pieces; ++i) pieceTable_.AddItem(Checked16(length + settings_.PieceAllowance()));
     }
+    reporter_.ExpectPieces(pieceTable_.GetCount());
 }
 
 void LinearOptimiser::Run(const std::string& name, std::int16_t stock) {
@@ -108,9 +109,11 @@ void LinearOptimiser::EmitRepeated(const std::string& name, std::int16_t stock, 
 }
 
 void LinearOptimiser::WriteRow(const std::string& name, std::int16_t repetition, float ratio) {
-    InsertPlanRow(connection_,
-                  {name, PatternText(search_.Found(), settings_), ShortText(std::int64_t{repetition}),
-                   ShortText(Percent(ratio)), ShortText(search_.YHRest())});
+    plan_.Add({name, PatternText(search_.Found(), settings_), ShortText(std::int64_t{repetition}),
+               ShortText(Percent(ratio)), ShortText(search_.YHRest())});
+    int pieces = 0;
+    for (const YHRecord& record : search_.Found()) pieces += record.count;
+    reporter_.Placed(pieces * repetition, repetition);
 }
 
 }  // namespace kalvane

@@ -1,13 +1,14 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "optimise/ctable.h"
 #include "optimise/pattern_search.h"
+#include "optimise/plan_writer.h"
+#include "optimise/run_progress.h"
 #include "optimise/settings.h"
 #include "platform/notice.h"
-#include "store/connection.h"
+#include "store/cursor.h"
 
 namespace kalvane {
 
@@ -15,9 +16,9 @@ namespace kalvane {
 /// as many times as the demand allows. A row of 优化结果 stands for all bars of one pattern.
 class LinearOptimiser {
   public:
-    /// `tick` is called about every millisecond of a long search, so that a screen can repaint.
-    LinearOptimiser(Connection& connection, const OptimiseSettings& settings, Notice& notice,
-                    std::function<void()> tick);
+    /// `reporter` hears of every row and about every millisecond of a long search.
+    LinearOptimiser(PlanWriter& plan, const OptimiseSettings& settings, Notice& notice,
+                    RunReporter& reporter);
 
     /// `name` is the material's 规格; `stock` the bar in mm; `demand` has a length (mm) and its pieces per
     /// row, shortest first, and a length may come more than once. More than NODES pieces are searched by an
@@ -36,9 +37,10 @@ class LinearOptimiser {
     void EmitRepeated(const std::string& name, std::int16_t stock, CTable& pieces);
     void WriteRow(const std::string& name, std::int16_t repetition, float ratio);
 
-    Connection& connection_;
+    PlanWriter& plan_;
     const OptimiseSettings& settings_;
     Notice& notice_;
+    RunReporter& reporter_;
     PatternSearch search_;
     CTable pieceTable_;  // all remaining pieces of the material
     CTable poolTable_;   // a sample of them

@@ -1,9 +1,8 @@
 #include "optimise/manual_run.h"
 
-#include <utility>
-
 #include "numeric/number.h"
 #include "optimise/linear_optimiser.h"
+#include "optimise/plan_writer.h"
 #include "optimise/practical_optimiser.h"
 #include "store/command_scope.h"
 
@@ -21,9 +20,9 @@ std::optional<ManualRowFailure> CheckManualRow(const ManualRow& row, const Optim
     return std::nullopt;
 }
 
-void RunManual(Connection& connection, const OptimiseSettings& settings, std::int16_t scheme,
-               const std::string& name, const std::vector<ManualRow>& rows, Notice& notice,
-               std::function<void()> tick) {
+RunEnd RunManual(Connection& connection, const OptimiseSettings& settings, std::int16_t scheme,
+                 const std::string& name, const std::vector<ManualRow>& rows, Notice& notice,
+                 const RunProgress& progress) {
     InCommand(connection, [&] {
         connection.Execute("Delete * from 优化数据");
         connection.Execute("Delete * from 优化结果");
@@ -31,15 +30,19 @@ void RunManual(Connection& connection, const OptimiseSettings& settings, std::in
             connection.Execute("Insert into 优化数据 (长度,数量) values(" + row.length + "," + row.count +
                                ")");
         }
+    });
+    PlanWriter plan(connection);
+    RunReporter reporter(progress);
+    return plan.Write([&] {
+        reporter.StartMaterial(0);
         if (scheme == 0) {
             Cursor demand = connection.OpenCursor(
                 "Select 长度,sum(数量) from 优化数据  group by 长度 order by 长度 desc");
-            OptimisePractical(connection, settings, notice, name, demand);
+            OptimisePractical(plan, settings, notice, name, demand, reporter);
         } else {
             Cursor demand =
                 connection.OpenCursor("Select 长度,sum(数量) from 优化数据  group by 长度 order by 长度");
-            LinearOptimiser(connection, settings, notice, std::move(tick))
-                .OptimiseLinear(name, settings.CLC, demand);
+            LinearOptimiser(plan, settings, notice, reporter).OptimiseLinear(name, settings.CLC, demand);
         }
     });
 }

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "optimise/demand_file.h"
+#include "optimise/run_progress.h"
 #include "optimise/settings.h"
 #include "platform/notice.h"
 #include "store/connection.h"
@@ -25,13 +25,12 @@ struct ManualRowFailure {
 std::optional<ManualRowFailure> CheckManualRow(const ManualRow& row, const OptimiseSettings& settings);
 
 /// Lays out bars for typed rows, with no project behind them: replaces 优化数据 and 优化结果 and runs the
-/// scheme (0 practical, any other linear) with `name` as the material. `tick` is called about
-/// every millisecond of a long search; it may be empty.
+/// scheme (0 practical, any other linear) with `name` as the material.
 ///
 /// A failure of the linear optimiser is shown under "出错"; all others are thrown, and the rows already
 /// written stay.
-void RunManual(Connection& connection, const OptimiseSettings& settings, std::int16_t scheme,
-               const std::string& name, const std::vector<ManualRow>& rows, Notice& notice,
-               std::function<void()> tick);
+RunEnd RunManual(Connection& connection, const OptimiseSettings& settings, std::int16_t scheme,
+                 const std::string& name, const std::vector<ManualRow>& rows, Notice& notice,
+                 const RunProgress& progress);
 
 }  // namespace kalvane

@@ -1,5 +1,7 @@
 #include "optimise/pattern_text.h"
 
+#include <algorithm>
+
 #include "numeric/number.h"
 
 namespace kalvane {
@@ -20,6 +22,18 @@ std::string PatternText(const YHArray& pattern, const OptimiseSettings& settings
     std::string text;
     for (const YHRecord& record : pattern) AppendPieces(text, record.length, record.count, settings);
     return FinishedPattern(text);
+}
+
+std::vector<PatternPart> ParsePattern(std::string_view text) {
+    std::vector<PatternPart> parts;
+    while (!text.empty()) {
+        const std::string_view part = text.substr(0, text.find('+'));
+        text.remove_prefix(std::min(part.size() + 1, text.size()));
+        const std::size_t star = std::min(part.find('*'), part.size());
+        const double count = star < part.size() ? ParseNumber(part.substr(star + 1)) : 1;
+        parts.push_back({RoundToInt32(ParseNumber(part.substr(0, star))), RoundToInt32(count)});
+    }
+    return parts;
 }
 
 }  // namespace kalvane

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "optimise/settings.h"
 #include "optimise/yh_array.h"
@@ -19,5 +21,14 @@ std::string FinishedPattern(std::string pattern);
 
 /// Text of a whole pattern, such as 800*3+1500+2000; empty for no records.
 std::string PatternText(const YHArray& pattern, const OptimiseSettings& settings);
+
+/// Pieces of one length in a pattern text: the length as cut, mm, and how many of it.
+struct PatternPart {
+    int length = 0;
+    int count = 0;
+};
+
+/// The parts of a pattern text in their order. Throws NumericError when the text is no pattern.
+std::vector<PatternPart> ParsePattern(std::string_view text);
 
 }  // namespace kalvane

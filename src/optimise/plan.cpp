@@ -20,24 +20,29 @@ std::vector<PlanRow> LoadPlan(Connection& connection) {
     return rows;
 }
 
-std::vector<CutRow> LoadCutTable(Connection& connection) {
-    Cursor cursor = connection.OpenCursor(
-        "Select 材料名称,切割规格,sum(数量),优化比率,剩余料长 from 优化结果 "
-        "group by 材料名称,切割规格,优化比率,剩余料长");
-    std::vector<CutRow> rows;
-    std::string material;
-    for (; !cursor.Eof(); cursor.MoveNext()) {
-        CutRow& row = rows.emplace_back();
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            row[i] = cursor.Field(static_cast<int>(i)).TextOrEmpty();
-        }
-        if (rows.size() > 1 && row[0] == material) {
-            row[0].clear();
-        } else {
-            material = row[0];
-        }
+std::vector<PlanRow> LoadSummedPlan(Connection& connection) {
+    std::vector<PlanRow> rows;
+    for (Cursor cursor =
+             connection.OpenCursor("Select 材料名称,切割规格,sum(数量),优化比率,剩余料长 from 优化结果 "
+                                   "group by 材料名称,切割规格,优化比率,剩余料长");
+         !cursor.Eof(); cursor.MoveNext()) {
+        rows.push_back({cursor.Field(0).TextOrEmpty(), cursor.Field(1).TextOrEmpty(),
+                        cursor.Field(2).TextOrEmpty(), cursor.Field(3).TextOrEmpty(),
+                        cursor.Field(4).TextOrEmpty()});
     }
     return rows;
+}
+
+std::vector<CutRow> LoadCutTable(Connection& connection) {
+    std::vector<CutRow> table;
+    std::string material;
+    for (PlanRow& row : LoadSummedPlan(connection)) {
+        const bool isFollowUp = !table.empty() && row.material == material;
+        material = row.material;
+        table.push_back({isFollowUp ? "" : row.material, std::move(row.pattern), std::move(row.count),
+                         std::move(row.ratio), std::move(row.rest)});
+    }
+    return table;
 }
 
 std::vector<TotalRow> LoadTotalTable(Connection& connection) {

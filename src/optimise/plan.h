@@ -24,12 +24,15 @@ void InsertPlanRow(Connection& connection, const PlanRow& row);
 /// The rows as they were written.
 std::vector<PlanRow> LoadPlan(Connection& connection);
 
+/// The rows as they were written, but like bars summed: by material and in a fixed order.
+std::vector<PlanRow> LoadSummedPlan(Connection& connection);
+
 /// Columns 材料名称, 切割规格, 数量, 优化比率, 剩余料长.
 using CutRow = std::array<std::string, 5>;
 /// Columns 材料名称, 数量, 优化比率.
 using TotalRow = std::array<std::string, 3>;
 
-/// 材料切割表: like bars summed. The material stands only on its first row.
+/// 材料切割表: LoadSummedPlan as a table. The material stands only on its first row.
 std::vector<CutRow> LoadCutTable(Connection& connection);
 
 /// 材料统计表: bars per material and their mean ratio weighted by the bars, unrounded.

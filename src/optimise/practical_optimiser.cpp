@@ -1,32 +1,36 @@
 #include "optimise/practical_optimiser.h"
 
+#include <utility>
+
 #include "numeric/number.h"
 #include "optimise/ctable02.h"
 #include "optimise/pattern_text.h"
-#include "optimise/plan.h"
 #include "platform/error.h"
 
 namespace kalvane {
 namespace {
 
-CTable02 LoadLengths(const OptimiseSettings& settings, Cursor& demand) {
+CTable02 LoadLengths(const OptimiseSettings& settings, Cursor& demand, RunReporter& reporter) {
     CTable02 lengths;
     if (demand.RecordCount() == 0) return lengths;
     lengths.Create(Checked16(demand.RecordCount()));
     std::int16_t position = 0;
+    int pieces = 0;
     for (demand.MoveFirst(); !demand.Eof(); demand.MoveNext()) {
         const std::int64_t length = RoundToInt32(demand.Field(0).Number());
-        lengths.AddNew(Checked16(length + settings.PieceAllowance()), RoundToInt16(demand.Field(1).Number()),
-                       ++position);
+        const std::int16_t count = RoundToInt16(demand.Field(1).Number());
+        lengths.AddNew(Checked16(length + settings.PieceAllowance()), count, ++position);
+        pieces += count;
     }
+    reporter.ExpectPieces(pieces);
     return lengths;
 }
 
 /// The bar being filled.
 class Bar {
   public:
-    Bar(Connection& connection, const OptimiseSettings& settings, const std::string& name)
-        : connection_(connection), settings_(settings), name_(name), rest_(settings.CLC) {}
+    Bar(PlanWriter& plan, const OptimiseSettings& settings, const std::string& name, RunReporter& reporter)
+        : plan_(plan), settings_(settings), name_(name), reporter_(reporter), rest_(settings.CLC) {}
 
     std::int16_t Rest() const { return rest_; }
 
@@ -34,6 +38,7 @@ class Bar {
     void Add(std::int16_t value, std::int16_t pieces) {
         rest_ = Checked16(rest_ - Checked16(std::int64_t{value} * pieces));
         AppendPieces(pattern_, value, pieces, settings_);
+        pieces_ += pieces;
     }
 
     /// Writes the bar's row and starts a new bar; an empty bar is left as it is.
@@ -41,26 +46,28 @@ class Bar {
         if (pattern_.empty()) return;
         if (settings_.CLC == 0) throw NumericError::DivisionByZero();
         const double ratio = static_cast<double>(Checked16(settings_.CLC - rest_)) / settings_.CLC;
-        InsertPlanRow(connection_, {name_, FinishedPattern(pattern_), "1", ShortText(ratio),
-                                    ShortText(std::int64_t{rest_})});
+        plan_.Add({name_, FinishedPattern(pattern_), "1", ShortText(ratio), ShortText(std::int64_t{rest_})});
         pattern_.clear();
         rest_ = settings_.CLC;
+        reporter_.Placed(std::exchange(pieces_, 0), 1);
     }
 
   private:
-    Connection& connection_;
+    PlanWriter& plan_;
     const OptimiseSettings& settings_;
     const std::string& name_;
+    RunReporter& reporter_;
     std::int16_t rest_;
     std::string pattern_;
+    int pieces_ = 0;
 };
 
 }  // namespace
 
-void OptimisePractical(Connection& connection, const OptimiseSettings& settings, Notice& notice,
-                       const std::string& name, Cursor& demand) {
-    CTable02 lengths = LoadLengths(settings, demand);
-    Bar bar(connection, settings, name);
+void OptimisePractical(PlanWriter& plan, const OptimiseSettings& settings, Notice& notice,
+                       const std::string& name, Cursor& demand, RunReporter& reporter) {
+    CTable02 lengths = LoadLengths(settings, demand, reporter);
+    Bar bar(plan, settings, name, reporter);
     while (lengths.Count() != 0) {
         const std::int16_t position = lengths.FindJustFor(bar.Rest(), settings.CLC, notice);
         if (position == CTable02::kBadData) break;

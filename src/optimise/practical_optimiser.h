@@ -2,9 +2,11 @@
 
 #include <string>
 
+#include "optimise/plan_writer.h"
+#include "optimise/run_progress.h"
 #include "optimise/settings.h"
 #include "platform/notice.h"
-#include "store/connection.h"
+#include "store/cursor.h"
 
 namespace kalvane {
 
@@ -15,7 +17,7 @@ namespace kalvane {
 /// A length that no bar can give, or a negative one, is told to the operator, and what is left of the
 /// material is given up. Throws NumericError when a number leaves 16 bits or a piece takes nothing of the
 /// bar, StoreError when a row is refused; the rows of the bars before stay.
-void OptimisePractical(Connection& connection, const OptimiseSettings& settings, Notice& notice,
-                       const std::string& name, Cursor& demand);
+void OptimisePractical(PlanWriter& plan, const OptimiseSettings& settings, Notice& notice,
+                       const std::string& name, Cursor& demand, RunReporter& reporter);
 
 }  // namespace kalvane

@@ -1,34 +1,38 @@
 #include "optimise/run.h"
 
 #include "optimise/linear_optimiser.h"
+#include "optimise/plan_writer.h"
 #include "optimise/practical_optimiser.h"
 #include "platform/error.h"
-#include "store/command_scope.h"
 
 namespace kalvane {
 namespace {
 
-void RunPractical(Connection& connection, const OptimiseSettings& settings,
-                  const std::vector<std::string>& materials, Notice& notice, const RunProgress& progress) {
+/// A run's parts that both schemes work with.
+struct Run {
+    Connection& connection;
+    const OptimiseSettings& settings;
+    Notice& notice;
+    PlanWriter plan;
+    RunReporter reporter;
+};
+
+void RunPractical(Run& run, const std::vector<std::string>& materials) {
     for (std::size_t i = 0; i < materials.size(); ++i) {
-        if (progress) progress(i);
-        Cursor demand = connection.OpenCursor("Select 长度,sum(数量) from 优化数据 where 规格='" +
-                                              materials[i] + "' group by 长度 order by 长度 Desc");
-        OptimisePractical(connection, settings, notice, materials[i], demand);
+        run.reporter.StartMaterial(i);
+        Cursor demand = run.connection.OpenCursor("Select 长度,sum(数量) from 优化数据 where 规格='" +
+                                                  materials[i] + "' group by 长度 order by 长度 Desc");
+        OptimisePractical(run.plan, run.settings, run.notice, materials[i], demand, run.reporter);
     }
 }
 
-void RunLinear(Connection& connection, const OptimiseSettings& settings,
-               const std::vector<std::string>& materials, Notice& notice, const RunProgress& progress) {
-    std::size_t current = 0;
-    LinearOptimiser optimiser(connection, settings, notice, [&] {
-        if (progress) progress(current);
-    });
-    for (; current < materials.size(); ++current) {
-        if (progress) progress(current);
-        Cursor demand = connection.OpenCursor("Select 长度,数量 from 优化数据  where 规格='" +
-                                              materials[current] + "' order by 长度");
-        optimiser.OptimiseLinear(materials[current], settings.CLC, demand);
+void RunLinear(Run& run, const std::vector<std::string>& materials) {
+    LinearOptimiser optimiser(run.plan, run.settings, run.notice, run.reporter);
+    for (std::size_t i = 0; i < materials.size(); ++i) {
+        run.reporter.StartMaterial(i);
+        Cursor demand = run.connection.OpenCursor("Select 长度,数量 from 优化数据  where 规格='" +
+                                                  materials[i] + "' order by 长度");
+        optimiser.OptimiseLinear(materials[i], run.settings.CLC, demand);
     }
 }
 
@@ -43,16 +47,15 @@ std::vector<std::string> ListMaterials(Connection& connection) {
     return materials;
 }
 
-void RunOptimisation(Connection& connection, const OptimiseSettings& settings, std::int16_t scheme,
-                     const std::vector<std::string>& materials, Notice& notice, const RunProgress& progress) {
+RunEnd RunOptimisation(Connection& connection, const OptimiseSettings& settings, std::int16_t scheme,
+                       const std::vector<std::string>& materials, Notice& notice,
+                       const RunProgress& progress) {
+    Run run{connection, settings, notice, PlanWriter(connection), RunReporter(progress)};
     try {
-        InCommand(connection, [&] {
-            connection.Execute("Delete from 优化结果");
-            const auto run = scheme == 0 ? RunPractical : RunLinear;
-            run(connection, settings, materials, notice, progress);
-        });
+        return run.plan.Write([&] { (scheme == 0 ? RunPractical : RunLinear)(run, materials); });
     } catch (const Error& error) {
         notice.Show(error.what(), "出错", NoticeIcon::Error);
+        return RunEnd::Failed;
     }
 }
 

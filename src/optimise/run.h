@@ -1,20 +1,15 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "optimise/run_progress.h"
 #include "optimise/settings.h"
 #include "platform/notice.h"
 #include "store/connection.h"
 
 namespace kalvane {
-
-/// Called with the index of the material at hand: once when its turn comes, and again about every
-/// millisecond of a long search, so it must be quick. May be empty.
-using RunProgress = std::function<void(std::size_t material)>;
 
 /// The materials that the gathered demand names, in the order of their 规格. A demand typed by hand has an
 /// empty one.
@@ -25,7 +20,8 @@ std::vector<std::string> ListMaterials(Connection& connection);
 ///
 /// A failure is shown under "出错" and ends the run, or with the linear optimiser its material only; the
 /// rows already written stay. Nothing is thrown for it.
-void RunOptimisation(Connection& connection, const OptimiseSettings& settings, std::int16_t scheme,
-                     const std::vector<std::string>& materials, Notice& notice, const RunProgress& progress);
+RunEnd RunOptimisation(Connection& connection, const OptimiseSettings& settings, std::int16_t scheme,
+                       const std::vector<std::string>& materials, Notice& notice,
+                       const RunProgress& progress);
 
 }  // namespace kalvane

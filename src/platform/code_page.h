@@ -7,7 +7,7 @@
 
 namespace kalvane {
 
-/// UTF-8 to GBK, the code page of drawing and demand files. Throws FileError naming the first character
+/// UTF-8 to GBK, the code page of drawing and demand files. Throws CodePageError naming the first character
 /// that GBK does not hold.
 std::string ToGbk(std::string_view utf8);
 

@@ -48,4 +48,10 @@ class FileError : public Error {
     using Error::Error;
 };
 
+/// A text holds a character that the file's code page does not.
+class CodePageError : public FileError {
+  public:
+    using FileError::FileError;
+};
+
 }  // namespace kalvane

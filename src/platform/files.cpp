@@ -72,6 +72,16 @@ std::string ReadFile(const std::filesystem::path& path) {
     return bytes;
 }
 
+void RequirePlainFile(const std::filesystem::path& path, std::uintmax_t most) {
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(path, failure)) {
+        throw FileError("文件“" + path.string() + "”不能打开。");
+    }
+    if (std::filesystem::file_size(path, failure) > most || failure) {
+        throw FileError("文件“" + path.string() + "”太大，不能打开。");
+    }
+}
+
 void WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes) {
     std::filesystem::path beside = path;
     beside += ".tmp" + std::to_string(::getpid());

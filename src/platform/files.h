@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -8,6 +9,10 @@ namespace kalvane {
 
 /// All bytes of a file; throws FileError when it cannot be read.
 std::string ReadFile(const std::filesystem::path& path);
+
+/// Throws FileError unless the path is a plain file (no folder, pipe or device, which might never end) of at
+/// most `most` bytes.
+void RequirePlainFile(const std::filesystem::path& path, std::uintmax_t most);
 
 /// Replaces a file's content as one step: the bytes go to a file beside it, are flushed to the disk and
 /// renamed into place. A failure throws FileError and leaves the old file as it was.

@@ -8,8 +8,10 @@ namespace kalvane {
 
 QValidator::State DigitsOnly::validate(QString& input, int&) const {
     input = PlainDigits(input);
-    const bool allDigits = std::all_of(
-        input.cbegin(), input.cend(), [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
+    const bool allDigits = std::all_of(input.cbegin(), input.cend(), [this](QChar c) {
+        return (c >= QLatin1Char('0') && c <= QLatin1Char('9')) ||
+               (c == QLatin1Char('.') && points_ == Points::Allowed);
+    });
     return allDigits ? Acceptable : Invalid;
 }
 

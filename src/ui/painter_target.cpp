@@ -3,17 +3,14 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QGuiApplication>
-#include <QPagedPaintDevice>
 #include <QPainter>
 #include <cmath>
 
-#include "platform/error.h"
 #include "ui/text.h"
 
 namespace kalvane {
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
 constexpr double kTwipsPerPoint = 20;
 constexpr double kPaperStroke = 0.5 * kTwipsPerPoint;
 constexpr double kFontPoints = 9;
@@ -36,11 +33,6 @@ PainterTarget::PainterTarget(QPainter& painter, double unitsPerTwip, Medium medi
     painter_.setRenderHint(QPainter::Antialiasing);
 }
 
-PainterTarget::PainterTarget(QPainter& painter, QPagedPaintDevice& pages)
-    : PainterTarget(painter, pages.logicalDpiX() / kTwipsPerInch, Medium::Paper) {
-    pages_ = &pages;
-}
-
 void PainterTarget::SetFontPoints(double points) {
     // The font's own points are those of the device's resolution, ours those of the scale.
     const double units = points * kTwipsPerPoint * unitsPerTwip_;
@@ -50,7 +42,7 @@ void PainterTarget::SetFontPoints(double points) {
 void PainterTarget::DrawLine(float x1, float y1, float x2, float y2) {
     QPointF from(x1 * unitsPerTwip_, y1 * unitsPerTwip_);
     QPointF to(x2 * unitsPerTwip_, y2 * unitsPerTwip_);
-    QPen pen(Qt::black, 1, Qt::SolidLine, Qt::SquareCap);
+    QPen pen(Qt::black, 1, strokeStyle_, Qt::SquareCap);
     if (medium_ == Medium::Screen) {
         const auto pixelCentre = [](QPointF p) {
             return QPointF(std::floor(p.x()) + 0.5, std::floor(p.y()) + 0.5);
@@ -79,10 +71,6 @@ float PainterTarget::TextHeight(std::string_view) const {
 float PainterTarget::TextWidth(std::string_view text) const {
     const QFontMetricsF metrics(font_, painter_.device());
     return static_cast<float>(metrics.horizontalAdvance(ToQt(text)) / unitsPerTwip_);
-}
-
-void PainterTarget::NewPage() {
-    if (pages_ != nullptr && !pages_->newPage()) throw Error("不能开始新的一页，请检查打印机。");
 }
 
 }  // namespace kalvane

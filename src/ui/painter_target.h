@@ -5,7 +5,6 @@
 
 #include "drawing/paint_target.h"
 
-class QPagedPaintDevice;
 class QPainter;
 
 namespace kalvane {
@@ -25,20 +24,21 @@ class PainterTarget : public PaintTarget {
     /// `unitsPerTwip` is the device's scale; texts follow it, whatever resolution the device claims.
     PainterTarget(QPainter& painter, double unitsPerTwip, Medium medium);
 
-    /// For a printer or PDF page; the origin is the top left of the printable area.
-    PainterTarget(QPainter& painter, QPagedPaintDevice& pages);
-
     void DrawLine(float x1, float y1, float x2, float y2) override;
     void DrawText(float x, float y, std::string_view text) override;
     float TextHeight(std::string_view text) const override;
-    /// Throws Error when the device refuses. Without pages it does nothing.
-    void NewPage() override;
+    /// Does nothing: it paints one picture, or one page of a PageDocument.
+    void NewPage() override {}
 
     /// Width of a text in twips.
     float TextWidth(std::string_view text) const;
 
     /// Font size of the texts from here on; 9 points at first.
     void SetFontPoints(double points);
+    /// Weight of the texts from here on.
+    void SetBold(bool bold) { font_.setBold(bold); }
+    /// Style of the strokes from here on; solid at first.
+    void SetDashed(bool dashed) { strokeStyle_ = dashed ? Qt::DashLine : Qt::SolidLine; }
     /// Colour of the texts from here on; black at first.
     void SetTextColour(const QColor& colour) { textColour_ = colour; }
 
@@ -46,9 +46,9 @@ class PainterTarget : public PaintTarget {
     QPainter& painter_;
     double unitsPerTwip_;
     Medium medium_;
-    QPagedPaintDevice* pages_ = nullptr;
     QFont font_;
     QColor textColour_ = Qt::black;
+    Qt::PenStyle strokeStyle_ = Qt::SolidLine;
 };
 
 }  // namespace kalvane

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QImage>
-#include <filesystem>
 #include <span>
 #include <string>
 #include <string_view>
@@ -30,10 +29,5 @@ void PaintLabelValues(PainterTarget& target, std::span<const WindowLabel> labels
 /// sets the scale of texts, wings and stubs: 96 gives what a picture box of that size shows.
 QImage WindowPictureImage(const MCPicture& picture, std::span<const WindowLabel> labels, QSize size,
                           double dotsPerInch = 96);
-
-/// The picture in the frame's own size on one upright A4 page of a PDF file, below `title`. Fonts are
-/// embedded. Throws FileError when the file cannot be written; an existing one then stays as it was.
-void WriteWindowPicturePdf(const std::filesystem::path& path, std::string_view title,
-                           const MCPicture& picture, std::span<const WindowLabel> labels);
 
 }  // namespace kalvane

@@ -141,13 +141,11 @@ class MainScreenTest : public ScreenTest {
 TEST_F(MainScreenTest, RightsEnableEntries) {
     const char* const cases[][2] = {
         {"111111111111",
-         "mnuProject mnuYouhua mnuExit mnuDatabaseManage mnuPath mnuChangeBackgroup mnuUserMng mnuMdifyPwd "
-         "mnuClearCK mnuAbout mnuHelps x4 x5 x6 x7 x8"},
-        {"111001000000", "mnuExit mnuAbout mnuHelps x7 x8"},
-        {"000000100000", "mnuExit mnuDatabaseManage mnuAbout mnuHelps x6 x7 x8"},
-        {"000000010000", "mnuExit mnuPath mnuAbout mnuHelps x7 x8"},
-        {"000000000100", "mnuExit mnuUserMng mnuAbout mnuHelps x7 x8"},
-        {"000000000010", "mnuExit mnuMdifyPwd mnuAbout mnuHelps x7 x8"},
+         "mnuDrawPicture mnuProject mnuYouhua mnuExit mnuDatabaseManage mnuPath mnuChangeBackgroup "
+         "mnuUserMng "
+         "mnuMdifyPwd mnuClearCK mnuAbout mnuHelps x2 x4 x5 x6 x7 x8"},
+        {"010000100000", "mnuDrawPicture mnuExit mnuDatabaseManage mnuAbout mnuHelps x2 x6 x7 x8"},
+        {"000000010110", "mnuExit mnuPath mnuUserMng mnuMdifyPwd mnuAbout mnuHelps x7 x8"},
         {"000100000000", "mnuProject mnuExit mnuAbout mnuHelps x4 x7 x8"},
         {"000010000000", "mnuYouhua mnuExit mnuAbout mnuHelps x5 x7 x8"},
         {"000000001000", "mnuExit mnuChangeBackgroup mnuAbout mnuHelps x7 x8"},

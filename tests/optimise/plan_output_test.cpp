@@ -1,10 +1,12 @@
 #include "optimise/demand_file.h"
+#include "optimise/demand_paste.h"
 #include "optimise/plan.h"
 #include "optimise/plan_text.h"
 #include "optimise/plan_workbook.h"
 #include "platform/error.h"
 #include "platform/files.h"
 #include "support/main_store.h"
+#include "support/xlsx_reader.h"
 
 namespace kalvane::test {
 
@@ -52,31 +54,92 @@ TEST_F(PlanTest, SumsLikeBarsNamesAMaterialOnceAndIsWrittenAsText) {
     EXPECT_THROW(SavePlanText({}, folder_ / "missing" / "plan.txt"), FileError);
 }
 
-TEST_F(PlanTest, FillsTheSpreadsheet) {
-    const Workbook workbook = PlanWorkbook(plan_);
-    const struct {
-        std::size_t sheet;
-        int row, column;
-        const char* text;
-        bool isNumber, hasBorder;
-    } cells[] = {{0, 1, 1, "材料优化切割表", false, false},
-                 {0, 3, 2, "阳光花园", false, false},
-                 {0, 4, 2, "                 切割规格", false, true},
-                 {0, 6, 1, "", false, true},
-                 {0, 6, 3, "2", true, true},
-                 {0, 7, 5, "2800", true, true},
-                 {1, 4, 4, "   采购数量", false, true},
-                 {1, 5, 3, "0.75", true, true},
-                 {1, 9, 3, "2024-05-01", false, false}};
-    for (const auto& cell : cells) {
-        const Sheet& sheet = workbook.Sheets().at(cell.sheet);
-        EXPECT_EQ(sheet.Text(cell.row, cell.column), cell.text) << cell.row << " " << cell.column;
-        EXPECT_EQ(sheet.IsNumber(cell.row, cell.column), cell.isNumber) << cell.text;
-        EXPECT_EQ(sheet.HasBorder(cell.row, cell.column), cell.hasBorder) << cell.text;
+/// Names of the cells of a range.
+std::set<std::string> Range(char firstColumn, char lastColumn, int firstRow, int lastRow) {
+    std::set<std::string> names;
+    for (int row = firstRow; row <= lastRow; ++row) {
+        for (char column = firstColumn; column <= lastColumn; ++column)
+            names.insert(column + std::to_string(row));
     }
-    workbook.Save(folder_ / "plan.xlsx");
-    EXPECT_EQ(ReadFile(folder_ / "plan.xlsx").substr(0, 2), "PK");
-    EXPECT_THROW(workbook.Save(folder_ / "missing" / "plan.xlsx"), FileError);
+    return names;
+}
+
+TEST_F(PlanTest, FillsTheSpreadsheet) {
+    PlanWorkbook(plan_).Save(folder_ / "plan.xlsx");
+    const XlsxReader reader(folder_ / "plan.xlsx");
+    const XlsxSheet cuts = reader.Sheet(1);
+    const std::map<std::string, std::string> cutCells = {{"A1", "材料优化切割表"},
+                                                         {"B1", ""},
+                                                         {"C1", ""},
+                                                         {"D1", ""},
+                                                         {"E1", ""},
+                                                         {"A3", "   工程名称："},
+                                                         {"B3", "阳光花园"},
+                                                         {"A4", "材料名称"},
+                                                         {"B4", "                 切割规格"},
+                                                         {"C4", "数量"},
+                                                         {"D4", "优化比率"},
+                                                         {"E4", "余料长度"},
+                                                         {"A5", "A"},
+                                                         {"B5", "1500"},
+                                                         {"C5", "#1"},
+                                                         {"D5", "#0.25"},
+                                                         {"E5", "#4500"},
+                                                         {"A6", ""},
+                                                         {"B6", "2000*3"},
+                                                         {"C6", "#2"},
+                                                         {"D6", "#1"},
+                                                         {"E6", "#0"},
+                                                         {"A7", "B"},
+                                                         {"B7", "800*4"},
+                                                         {"C7", "#1"},
+                                                         {"D7", "#0.5"},
+                                                         {"E7", "#2800"},
+                                                         {"A9", "日期"},
+                                                         {"B9", "2024-05-01"}};
+    EXPECT_EQ(cuts.cells, cutCells);
+    EXPECT_EQ(cuts.bordered, Range('A', 'E', 4, 7));
+    EXPECT_EQ(cuts.centred, Range('A', 'E', 1, 1));
+    EXPECT_EQ(cuts.merges, std::vector<std::string>{"A1:E1"});
+    // The file adds the 5 pixels of a cell's margin, of 7 to a character.
+    const std::map<int, double> widths = {{2, 45}, {3, 4}, {4, 9}, {5, 9}};
+    ASSERT_EQ(cuts.widths.size(), widths.size());
+    for (const auto& [column, width] : widths) EXPECT_NEAR(cuts.widths.at(column), width + 5.0 / 7, 0.01);
+
+    const XlsxSheet totals = reader.Sheet(2);
+    const std::map<std::string, std::string> totalCells = {{"A1", "材料优化统计表"},
+                                                           {"B1", ""},
+                                                           {"C1", ""},
+                                                           {"D1", ""},
+                                                           {"A3", "   工程名称："},
+                                                           {"B3", "阳光花园"},
+                                                           {"A4", "   材料名称"},
+                                                           {"B4", "     数量"},
+                                                           {"C4", "   优化比率"},
+                                                           {"D4", "   采购数量"},
+                                                           {"A5", "A"},
+                                                           {"B5", "#3"},
+                                                           {"C5", "#0.75"},
+                                                           {"D5", ""},
+                                                           {"A6", "B"},
+                                                           {"B6", "#1"},
+                                                           {"C6", "#0.5"},
+                                                           {"D6", ""},
+                                                           {"A7", "总经理签字"},
+                                                           {"C7", "主管签字"},
+                                                           {"A9", "日期"},
+                                                           {"C9", "2024-05-01"}};
+    EXPECT_EQ(totals.cells, totalCells);
+    EXPECT_EQ(totals.bordered, Range('A', 'D', 4, 6));
+    EXPECT_EQ(totals.merges, std::vector<std::string>{"A1:D1"});
+    EXPECT_TRUE(totals.widths.empty());
+    EXPECT_THROW(PlanWorkbook(plan_).Save(folder_ / "missing" / "plan.xlsx"), FileError);
+}
+
+std::string TextOf(const std::vector<ManualRow>& rows) {
+    std::string text;
+    for (const ManualRow& row : rows) text += row.length + "x" + row.count + " ";
+    return text;
 }
 
 TEST(DemandFileTest, WritesTwoLinesPerRowAndReadsForeignFilesAsFarAsTheyAreWhole) {
@@ -91,29 +154,65 @@ TEST(DemandFileTest, WritesTwoLinesPerRowAndReadsForeignFilesAsFarAsTheyAreWhole
     const struct {
         const char* bytes;
         const char* expected;
-        bool isWhole;
+        const char* complaints;  // by their lines
     } files[] = {
-        {"", "", true},
-        {"2000,3\r\n1500, 4", "2000x3 1500x4 ", true},
-        {"2000\n3\n1500\n4\n\n", "2000x3 1500x4 ", true},
-        {"2000\r3\r", "2000x3 ", true},
-        {"2000\r\n3\r\n1500\r\n", "2000x3 ", false},
-        {"2000", "", false},
+        {"", "", ""},
+        {"2000,3\r\n1500, 4", "2000x3 1500x4 ", ""},
+        {"2000\n3\n1500\n4\n\n", "2000x3 1500x4 ", ""},
+        {"\xEF\xBB\xBF"
+         "2000\r3\r",
+         "2000x3 ", ""},
+        {"2000\r\n3\r\n1500\r\n", "2000x3 ", "\n第 3 行：长度“1500”后缺少数量"},
+        {"2000", "", "\n第 1 行：长度“2000”后缺少数量"},
+        {"2000,3\r\n\xB3\xA4,4\r\n1,2", "2000x3 1x2 ", "\n第 2 行：长度“长”、数量“4”不是数字"},  // GBK
+        {"2000\n3\n\n1e3\n4\n", "2000x3 ",
+         "\n第 3 行：长度“”、数量“1e3”不是数字\n第 5 行：长度“4”后缺少数量"},
     };
     for (const auto& file : files) {
         WriteFileAtomically(folder / "a.DDD", file.bytes);
         rows.clear();
-        bool isWhole = true;
+        std::string message;
         try {
             ReadDemandFile(folder / "a.DDD", rows);
-        } catch (const FileError&) {
-            isWhole = false;
+        } catch (const FileError& error) {
+            message = error.what();
         }
-        std::string text;
-        for (const ManualRow& row : rows) text += row.length + "x" + row.count + " ";
-        EXPECT_EQ(text, file.expected);
-        EXPECT_EQ(isWhole, file.isWhole) << file.bytes;
+        EXPECT_EQ(TextOf(rows), file.expected);
+        EXPECT_EQ(message.substr(std::min(message.find('\n'), message.size())), file.complaints);
     }
+}
+
+TEST(DemandPasteTest, TakesTheGoodRowsAndNamesTheOthers) {
+    OptimiseSettings settings;
+    settings.CLC = 6000;
+    const struct {
+        const char* text;
+        const char* expected;
+        const char* complaints;
+    } pastes[] = {
+        {"", "", ""},
+        {"1500\t4\n2000\t3\n", "1500x4 2000x3 ", ""},
+        {"长度\t数量\r\n1500.5\t4\r\n\r\n 2000 ,3", "1500.5x4 2000x3 ", ""},
+        {"\n\"length, mm\",\"pieces\"\n\"800\",\"12\"\r900,1\t\t", "800x12 ", "\n第 4 行：缺少数量"},
+        {"1500\n1500\t\n1500\t1\tA", "", "\n第 1 行：缺少数量\n第 2 行：缺少数量\n第 3 行：多于两列"},
+        {"1,1\nlength,count\n-5,1\n0,1\n1e3,1\n5,0\n5,1.5\n5,1.0\n5,32768\n5999.9,1\n6000,1",
+         "1x1 5x1.0 5999.9x1 ",
+         "\n第 2 行：长度“length”不是正数\n第 3 行：长度“-5”不是正数\n第 4 行：长度“0”不是正数"
+         "\n第 5 行：长度“1e3”不是正数\n第 6 行：数量“0”不是正数\n第 7 行：数量“1.5”不是整数"
+         "\n第 9 行：数量“32768”过大\n第 11 行：长度“6000”：数据大于6000！"},
+    };
+    for (const auto& paste : pastes) {
+        const PastedDemand pasted = ParsePastedDemand(paste.text, settings);
+        EXPECT_EQ(TextOf(pasted.rows), paste.expected) << paste.text;
+        const std::string message = pasted.complaints.Message();
+        EXPECT_EQ(message.substr(std::min(message.find('\n'), message.size())), paste.complaints);
+        EXPECT_EQ(pasted.complaints.IsEmpty(), *paste.complaints == '\0');
+    }
+    std::string many;
+    for (int i = 0; i < 5000; ++i) many += "x1\t1\n";
+    const std::string message = ParsePastedDemand("1\t1\n" + many, settings).complaints.Message();
+    EXPECT_EQ(message.substr(0, message.find('\n')), "有 5000 行没有加入：");
+    EXPECT_EQ(std::count(message.begin(), message.end(), '\n'), 21);  // 20 of them, and that there are more
 }
 
 }  // namespace kalvane::test

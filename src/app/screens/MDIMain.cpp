@@ -23,6 +23,7 @@
 #include "app/screens/kalvane_kernel.h"
 #include "app/screens/picture_area.h"
 #include "app/startup.h"
+#include "drawing/screens/FrmDraw.h"
 #include "optimise/screens/PYH02.h"
 #include "platform/assertion.h"
 #include "platform/settings_store.h"
@@ -70,7 +71,7 @@ const std::vector<MDIMain::EntryMenu>& MDIMain::Menus() {
              {QStringLiteral("mnuDatabase"), QStringLiteral("材料库"), QStringLiteral("catalogue"),
               Right::Catalogue, nullptr},
              {QStringLiteral("mnuDrawPicture"), QStringLiteral("绘制图"), QStringLiteral("drawing"),
-              Right::Drawing, nullptr},
+              Right::Drawing, [](MDIMain& frame) { frame.ShowDrawingDesk(); }},
              {QStringLiteral("mnuDesign"), QStringLiteral("窗型设计"), QStringLiteral("design"),
               Right::Design, nullptr},
              {QStringLiteral("mnuProject"), QStringLiteral("工程管理"), QStringLiteral("project"),
@@ -280,6 +281,11 @@ void MDIMain::CloseChildOrProgram() {
     } else {
         close();
     }
+}
+
+void MDIMain::ShowDrawingDesk() {
+    if (ActivateScreen(QStringLiteral("FrmDraw"))) return;
+    (new FrmDraw(nullptr))->ShowModeless();
 }
 
 void MDIMain::ShowHelp() {

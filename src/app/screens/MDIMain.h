@@ -42,6 +42,7 @@ class MDIMain : public QMainWindow {
     void ChangeBackground();
     void ClearWarehouse();
     void CloseChildOrProgram();
+    void ShowDrawingDesk();
     void ShowHelp();
     void ShowAbout();
 

@@ -8,9 +8,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "app/app_state.h"
 #include "app/company_settings.h"
-#include "app/startup.h"
 #include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/text.h"
@@ -19,43 +17,47 @@ namespace kalvane {
 namespace {
 
 constexpr int kBoxWidth = 360;
-constexpr int kViewWidth = 40;
-constexpr std::int16_t kWindCheckHere = 0;
 
-/// Two choices side by side, of which one holds.
-QHBoxLayout* Pair(QRadioButton* first, QRadioButton* second) {
-    auto* group = new QButtonGroup(first);
+QRadioButton* MakeChoice(const char* name, const QString& caption, QWidget* screen) {
+    auto* choice = new QRadioButton(caption, screen);
+    choice->setObjectName(QLatin1String(name));
+    return choice;
+}
+
+void AddChoices(QFormLayout& fields, const QString& label, QRadioButton* first, QRadioButton* second) {
+    auto* group = new QButtonGroup(first->parentWidget());
+    group->addButton(first);
+    group->addButton(second);
     auto* row = new QHBoxLayout;
-    for (QRadioButton* button : {first, second}) {
-        group->addButton(button);
-        row->addWidget(button);
-    }
+    row->setSpacing(24);
+    row->addWidget(first);
+    row->addWidget(second);
     row->addStretch();
-    return row;
+    fields.addRow(label, row);
 }
 
 }  // namespace
 
 frmSetting::frmSetting(QWidget* parent)
-    : Screen(QStringLiteral("frmSetting"), QStringLiteral("设置用户"), parent) {
+    : Screen(QStringLiteral("frmSetting"), QStringLiteral("设置用户"), parent),
+      OptExcel_(MakeChoice("OptExcel", QStringLiteral("Excel"), this)),
+      OptText_(MakeChoice("OptText", QStringLiteral("文本文件"), this)),
+      optStandard_(MakeChoice("optStandard", QStringLiteral("标准"), this)),
+      optEasy_(MakeChoice("optEasy", QStringLiteral("精简"), this)) {
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
     auto* fields = new QFormLayout;
     fields->setSpacing(10);
     txtCompany_ = AddBox(*fields, "txtCompany", QStringLiteral("公司名称："));
     txtTelnum_ = AddBox(*fields, "txtTelnum", QStringLiteral("联系电话："));
     txtAddress_ = AddBox(*fields, "txtAddress", QStringLiteral("公司地址："));
-    OptExcel_ = AddChoice("OptExcel", QStringLiteral("Excel"));
-    OptText_ = AddChoice("OptText", QStringLiteral("文本文件"));
-    fields->addRow(QStringLiteral("导出文件 类    型："), Pair(OptExcel_, OptText_));
-    optStandard_ = AddChoice("optStandard", QStringLiteral("标准"));
-    optEasy_ = AddChoice("optEasy", QStringLiteral("精简"));
-    fields->addRow(QStringLiteral("校核模型："), Pair(optStandard_, optEasy_));
-    txtClPath_ = AddBox(*fields, "txtClPath", QStringLiteral("材料数据："), "cmdView1");
-    txtCkPath_ = AddBox(*fields, "txtCkPath", QStringLiteral("仓库数据："), "cmdView2");
+    AddChoices(*fields, QStringLiteral("导出文件 类    型："), OptExcel_, OptText_);
+    AddChoices(*fields, QStringLiteral("校核模型："), optStandard_, optEasy_);
+    txtClPath_ = AddPath(*fields, "txtClPath", "cmdView1", QStringLiteral("材料数据："));
+    txtCkPath_ = AddPath(*fields, "txtCkPath", "cmdView2", QStringLiteral("仓库数据："));
+
     QPushButton* ok = MakeButton("cmdOK", QStringLiteral("确定"), this);
     ok->setDefault(true);
     QPushButton* cancel = MakeButton("cmdCancel", QStringLiteral("取消"), this);
-
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(20, 20, 20, 16);
     rows->setSpacing(18);
@@ -63,56 +65,55 @@ frmSetting::frmSetting(QWidget* parent)
     rows->addLayout(ButtonRow({ok, cancel}));
     rows->setSizeConstraint(QLayout::SetFixedSize);
 
-    OnSignal(ok, &QPushButton::clicked, this, [this] { Save(); });
+    OnSignal(ok, &QPushButton::clicked, this, [this] { Store(); });
     OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
     Load();
 }
 
-QLineEdit* frmSetting::AddBox(QFormLayout& fields, const char* name, const QString& label, const char* view) {
+QLineEdit* frmSetting::AddBox(QFormLayout& fields, const char* name, const QString& label) {
     auto* box = new QLineEdit(this);
     box->setObjectName(QLatin1String(name));
     box->setMinimumWidth(kBoxWidth);
-    if (view == nullptr) {
-        fields.addRow(label, box);
-        return box;
-    }
-    // The paths are for the operator's information, so there is nothing to choose.
-    const QString note = QStringLiteral("仅供查看：数据库总是从启动文件夹打开。");
-    QPushButton* button = MakeButton(view, QStringLiteral("..."), this, note);
+    fields.addRow(label, box);
+    return box;
+}
+
+QLineEdit* frmSetting::AddPath(QFormLayout& fields, const char* name, const char* view,
+                               const QString& label) {
+    const QString toolTip = QStringLiteral("仅供查看：数据文件总是从启动文件夹打开");
+    auto* box = new QLineEdit(this);
+    box->setObjectName(QLatin1String(name));
+    box->setToolTip(toolTip);
+    QPushButton* button = MakeButton(view, QStringLiteral("..."), this, toolTip);
     button->setAutoDefault(false);
-    button->setMaximumWidth(kViewWidth);
-    box->setToolTip(note);
     auto* row = new QHBoxLayout;
-    row->addWidget(box);
+    row->addWidget(box, 1);
     row->addWidget(button);
     fields.addRow(label, row);
     return box;
 }
 
-QRadioButton* frmSetting::AddChoice(const char* name, const QString& caption) {
-    auto* button = new QRadioButton(caption, this);
-    button->setObjectName(QLatin1String(name));
-    return button;
-}
-
 void frmSetting::Load() {
-    const CompanySettings settings = ReadCompanySettings(*App().settings, App().folder);
-    txtCompany_->setText(ToQt(settings.name));
+    const CompanySettings settings = LoadCompanySettings(App());
+    txtCompany_->setText(ToQt(settings.company));
     txtTelnum_->setText(ToQt(settings.telephone));
     txtAddress_->setText(ToQt(settings.address));
-    txtClPath_->setText(ToQt(settings.mainStorePath));
-    txtCkPath_->setText(ToQt(settings.stockStorePath));
-    ReadOutputSettings(App(), kWindCheckHere);
-    (App().outputFileType != 0 ? OptText_ : OptExcel_)->setChecked(true);
-    (App().windCheckOption != 0 ? optEasy_ : optStandard_)->setChecked(true);
+    (settings.textOutput ? OptText_ : OptExcel_)->setChecked(true);
+    (settings.shortWindCheck ? optEasy_ : optStandard_)->setChecked(true);
+    txtClPath_->setText(ToQt(settings.mainStore));
+    txtCkPath_->setText(ToQt(settings.stockStore));
 }
 
-void frmSetting::Save() {
-    const CompanySettings settings = {FromQt(txtCompany_->text()), FromQt(txtTelnum_->text()),
-                                      FromQt(txtAddress_->text()), FromQt(txtClPath_->text()),
-                                      FromQt(txtCkPath_->text())};
-    SaveCompanySettings(*App().settings, settings, !OptExcel_->isChecked(), !optStandard_->isChecked());
-    ReadOutputSettings(App(), kWindCheckHere);
+void frmSetting::Store() {
+    CompanySettings settings;
+    settings.company = FromQt(txtCompany_->text());
+    settings.telephone = FromQt(txtTelnum_->text());
+    settings.address = FromQt(txtAddress_->text());
+    settings.textOutput = !OptExcel_->isChecked();
+    settings.shortWindCheck = !optStandard_->isChecked();
+    settings.mainStore = FromQt(txtClPath_->text());
+    settings.stockStore = FromQt(txtCkPath_->text());
+    SaveCompanySettings(App(), settings);
     accept();
 }
 

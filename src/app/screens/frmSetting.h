@@ -8,20 +8,18 @@ class QRadioButton;
 
 namespace kalvane {
 
-/// The company's data and the choices of output. Opening it reads both choices anew, the wind check's with
-/// its own default: a model that was never saved becomes the standard one, also when the screen is cancelled.
+/// The company's data and the choices of output and wind check.
 class frmSetting : public Screen {
     Q_OBJECT
 
   public:
-    explicit frmSetting(QWidget* parent);
+    explicit frmSetting(QWidget* parent = nullptr);
 
   private:
-    QLineEdit* AddBox(QFormLayout& fields, const char* name, const QString& label,
-                      const char* view = nullptr);
-    QRadioButton* AddChoice(const char* name, const QString& caption);
+    QLineEdit* AddBox(QFormLayout& fields, const char* name, const QString& label);
+    QLineEdit* AddPath(QFormLayout& fields, const char* name, const char* view, const QString& label);
     void Load();
-    void Save();
+    void Store();
 
     QLineEdit* txtCompany_;
     QLineEdit* txtTelnum_;

@@ -1,14 +1,15 @@
 #include "app/screens/frmUserChangPwd.h"
 
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "app/app_state.h"
+#include "app/enc_decrypt.h"
 #include "app/startup.h"
-#include "app/user_admin.h"
+#include "app/user_accounts.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
@@ -17,24 +18,32 @@
 
 namespace kalvane {
 namespace {
-constexpr int kBoxWidth = 220;
+
+constexpr int kBoxWidth = 200;
+constexpr int kPasswordLength = 12;  // the column holds four digits for each character
+const QString kTitle = QStringLiteral("提示！");
+
 }  // namespace
 
 frmUserChangPwd::frmUserChangPwd(QWidget* parent)
-    : EntryScreen(QStringLiteral("frmUserChangPwd"), QStringLiteral("修改密码"), parent) {
+    : Screen(QStringLiteral("frmUserChangPwd"), QStringLiteral("修改密码"), parent) {
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
-    auto* fields = new QFormLayout;
-    fields->setSpacing(10);
     const QString captions[] = {QStringLiteral("原密码"), QStringLiteral("新密码"),
                                 QStringLiteral("确认密码")};
-    for (std::size_t i = 0; i < txtPwd_.size(); ++i) {
-        lblPwd_[i] = new QLabel(captions[i], this);
-        lblPwd_[i]->setObjectName(QStringLiteral("lblPwd(%1)").arg(i));
-        txtPwd_[i] = new QLineEdit(this);
-        txtPwd_[i]->setObjectName(QStringLiteral("txtPwd(%1)").arg(i));
-        txtPwd_[i]->setEchoMode(QLineEdit::Password);
-        txtPwd_[i]->setMinimumWidth(kBoxWidth);
-        fields->addRow(lblPwd_[i], txtPwd_[i]);
+    auto* fields = new QGridLayout;
+    fields->setSpacing(10);
+    for (int i = 0; i < kBoxCount; ++i) {
+        auto* label = new QLabel(captions[i], this);
+        label->setObjectName(QStringLiteral("lblPwd(%1)").arg(i));
+        auto* box = new QLineEdit(this);
+        box->setObjectName(QStringLiteral("txtPwd(%1)").arg(i));
+        box->setEchoMode(QLineEdit::Password);
+        box->setMaxLength(kPasswordLength);
+        box->setMinimumWidth(kBoxWidth);
+        fields->addWidget(label, i, 0);
+        fields->addWidget(box, i, 1);
+        lblPwd_[static_cast<std::size_t>(i)] = label;
+        txtPwd_[static_cast<std::size_t>(i)] = box;
     }
     QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定"), this);
     ok->setDefault(true);
@@ -47,7 +56,6 @@ frmUserChangPwd::frmUserChangPwd(QWidget* parent)
     rows->addLayout(ButtonRow({ok, cancel}));
     rows->setSizeConstraint(QLayout::SetFixedSize);
 
-    for (QLineEdit* box : txtPwd_) OnEnter(box, [this] { Change(); });
     OnSignal(ok, &QPushButton::clicked, this, [this] { Change(); });
     OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
     Guarded(this, [this] {
@@ -63,28 +71,25 @@ int frmUserChangPwd::exec() {
 void frmUserChangPwd::Change() {
     for (std::size_t i = 0; i < txtPwd_.size(); ++i) {
         if (!txtPwd_[i]->text().isEmpty()) continue;
-        Tell(lblPwd_[i]->text() + QStringLiteral("不能为空！"));
-        txtPwd_[i]->setFocus();
-        return;
+        return Refuse(lblPwd_[i]->text() + QStringLiteral("不能为空！"), static_cast<Box>(i));
     }
-    if (!IsLoginPassword(App(), FromQt(txtPwd_[0]->text()))) {
-        Tell(QStringLiteral("原密码输入不正确！"));
+    const std::string old = clsEncDecrypt().KeyEncBuf(FromQt(txtPwd_[kOld]->text()), kPasswordKey);
+    if (old != App().userPwd) {
         for (QLineEdit* box : txtPwd_) box->clear();
-        txtPwd_[0]->setFocus();
-        return;
+        return Refuse(QStringLiteral("原密码输入不正确！"), kOld);
     }
-    if (txtPwd_[1]->text() != txtPwd_[2]->text()) {
-        Tell(QStringLiteral("新密码与确认密码不相同！"));
-        FocusAll(txtPwd_[1]);
-        return;
+    if (txtPwd_[kNew]->text() != txtPwd_[kRepeated]->text()) {
+        return Refuse(QStringLiteral("新密码与确认密码不相同！"), kNew);
     }
-    ChangePassword(App(), *users_, FromQt(txtPwd_[1]->text()));
-    Tell(QStringLiteral("密码修改成功！"));
+    ChangeUserPassword(*users_, App().userName, FromQt(txtPwd_[kNew]->text()));
+    UseDialogs().Message(this, QStringLiteral("密码修改成功！"), kTitle, NoticeIcon::Information);
     accept();
 }
 
-void frmUserChangPwd::Tell(const QString& text) {
-    UseDialogs().Message(this, text, QStringLiteral("提示！"), NoticeIcon::Information);
+void frmUserChangPwd::Refuse(const QString& text, Box box) {
+    UseDialogs().Message(this, text, kTitle, NoticeIcon::Information);
+    txtPwd_[box]->setFocus();
+    txtPwd_[box]->selectAll();
 }
 
 }  // namespace kalvane

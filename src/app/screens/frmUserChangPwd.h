@@ -4,30 +4,33 @@
 #include <memory>
 
 #include "store/connection.h"
-#include "ui/entry_screen.h"
+#include "ui/screen.h"
 
 class QLabel;
 class QLineEdit;
 
 namespace kalvane {
 
-/// Gives the logged-in user a new password. It has the user store open while it lives.
-class frmUserChangPwd : public EntryScreen {
+/// Changes the password of the user who is logged in. AppState keeps the password of the login, so a second
+/// change in the same run asks for that one as the old password.
+class frmUserChangPwd : public Screen {
     Q_OBJECT
 
   public:
-    explicit frmUserChangPwd(QWidget* parent);
+    explicit frmUserChangPwd(QWidget* parent = nullptr);
 
     /// Ends at once, after a message, when the user store cannot be opened.
     int exec() override;
 
   private:
+    enum Box { kOld, kNew, kRepeated, kBoxCount };
+
     void Change();
-    void Tell(const QString& text);
+    void Refuse(const QString& text, Box box);
 
     std::unique_ptr<Connection> users_;
-    std::array<QLabel*, 3> lblPwd_;
-    std::array<QLineEdit*, 3> txtPwd_;  ///< old, new, new once more
+    std::array<QLabel*, kBoxCount> lblPwd_ = {};
+    std::array<QLineEdit*, kBoxCount> txtPwd_ = {};
 };
 
 }  // namespace kalvane

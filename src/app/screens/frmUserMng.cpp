@@ -4,7 +4,6 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -21,182 +20,187 @@
 namespace kalvane {
 namespace {
 
-constexpr QSize kFirstSize(820, 460);
-constexpr int kRightColumns = 3;
+constexpr int kRightsInARow = 3;
+constexpr int kListWidth = 180;
+constexpr int kNameLength = 8;  // of the column
 const QString kTitle = QStringLiteral("提示");
-
-QStringList ToRow(const User& user) {
-    QStringList granted;
-    for (int i = 0; i < kRightCount; ++i) {
-        const auto right = static_cast<Right>(i);
-        if (IsGranted(user.rights, right)) granted << ToQt(RightCaption(right));
-    }
-    return {ToQt(user.name),
-            granted.size() == kRightCount ? QStringLiteral("全部") : granted.join(QStringLiteral("、"))};
-}
 
 }  // namespace
 
 frmUserMng::frmUserMng(QWidget* parent)
     : Screen(QStringLiteral("frmUserMng"), QStringLiteral("用户管理"), parent),
-      lvw_(new ReportList(QStringLiteral("lvw"), {QStringLiteral("用户名"), QStringLiteral("权限")}, this)),
+      lvw_(new ReportList(QStringLiteral("lvw"), {QStringLiteral("用户名")}, this)),
       txtUsrNm_(new QLineEdit(this)),
       txtUsrPwd_(new QLineEdit(this)) {
     txtUsrNm_->setObjectName(QStringLiteral("txtUsrNm"));
+    txtUsrNm_->setMaxLength(kNameLength);
     txtUsrPwd_->setObjectName(QStringLiteral("txtUsrPwd"));
     txtUsrPwd_->setEchoMode(QLineEdit::Password);
-    auto* fields = new QFormLayout;
-    fields->addRow(QStringLiteral("用户名："), txtUsrNm_);
-    fields->addRow(QStringLiteral("密　码："), txtUsrPwd_);
-
-    auto* rights = new QGroupBox(QStringLiteral("权限"), this);
-    auto* grid = new QGridLayout(rights);
-    for (int i = 0; i < kRightCount; ++i) {
-        auto* box = new QCheckBox(ToQt(RightCaption(static_cast<Right>(i))), rights);
-        box->setObjectName(QStringLiteral("chkAuth(%1)").arg(i));
-        grid->addWidget(box, i / kRightColumns, i % kRightColumns);
-        chkAuth_[static_cast<std::size_t>(i)] = box;
+    const QString captions[] = {QStringLiteral("添加"), QStringLiteral("修改"), QStringLiteral("删除"),
+                                QStringLiteral("保存"), QStringLiteral("取消")};
+    for (std::size_t i = 0; i < cmdOpr_.size(); ++i) {
+        cmdOpr_[i] = MakeButton(qPrintable(QStringLiteral("cmdOpr(%1)").arg(i)), captions[i], this);
     }
+    lvw_->setMinimumWidth(kListWidth);
 
-    QPushButton* add = MakeButton("cmdOpr(0)", QStringLiteral("添加"), this);
-    QPushButton* edit =
-        MakeButton("cmdOpr(1)", QStringLiteral("修改"), this, QStringLiteral("修改所选用户的权限"));
-    QPushButton* del = MakeButton("cmdOpr(2)", QStringLiteral("删除"), this);
-    QPushButton* save = MakeButton("cmdOpr(3)", QStringLiteral("保存"), this);
-    QPushButton* cancel = MakeButton("cmdOpr(4)", QStringLiteral("取消"), this);
-    for (QPushButton* button : {add, edit, del, cancel}) button->setAutoDefault(false);
-    save->setDefault(true);
-
-    auto* details = new QVBoxLayout;
-    details->setSpacing(14);
-    details->addLayout(fields);
-    details->addWidget(rights);
-    details->addStretch();
     auto* body = new QWidget(this);
     auto* columns = new QHBoxLayout(body);
     columns->setContentsMargins(0, 0, 0, 0);
     columns->setSpacing(16);
-    columns->addWidget(lvw_, 1);
-    columns->addLayout(details);
-    LayOutAboveButtons(this, body, {add, edit, del, save, cancel});
-    resize(kFirstSize);
+    columns->addWidget(lvw_);
+    columns->addWidget(MakeFields(), 1);
+    LayOutAboveButtons(this, body,
+                       {cmdOpr_[kAdd], cmdOpr_[kEdit], cmdOpr_[kDelete], cmdOpr_[kSave], cmdOpr_[kCancel]});
 
     OnSignal(lvw_, &ReportList::itemSelectionChanged, this, [this] { ShowSelected(); });
-    OnSignal(add, &QPushButton::clicked, this, [this] { Add(); });
-    OnSignal(edit, &QPushButton::clicked, this, [this] { Edit(); });
-    OnSignal(del, &QPushButton::clicked, this, [this] { Delete(); });
-    OnSignal(save, &QPushButton::clicked, this, [this] { Save(); });
-    OnSignal(cancel, &QPushButton::clicked, this, [this] { Cancel(); });
-    EnableNameAndPassword(false);
+    OnSignal(cmdOpr_[kAdd], &QPushButton::clicked, this, [this] { StartAdding(); });
+    OnSignal(cmdOpr_[kEdit], &QPushButton::clicked, this, [this] { StartEditing(); });
+    OnSignal(cmdOpr_[kDelete], &QPushButton::clicked, this, [this] { Delete(); });
+    OnSignal(cmdOpr_[kSave], &QPushButton::clicked, this, [this] { Save(); });
+    OnSignal(cmdOpr_[kCancel], &QPushButton::clicked, this, [this] {
+        Enter(Mode::Browse);
+        ShowSelected();
+    });
+    Enter(Mode::Browse);
     Guarded(this, [this] { Load(); });
 }
 
+QWidget* frmUserMng::MakeFields() {
+    auto* rights = new QGroupBox(QStringLiteral("权限"), this);
+    auto* grid = new QGridLayout(rights);
+    grid->setHorizontalSpacing(24);
+    for (int i = 0; i < kRightCount; ++i) {
+        auto* box = new QCheckBox(ToQt(RightCaption(static_cast<Right>(i))), rights);
+        box->setObjectName(QStringLiteral("chkAuth(%1)").arg(i));
+        grid->addWidget(box, i / kRightsInARow, i % kRightsInARow);
+        chkAuth_[static_cast<std::size_t>(i)] = box;
+    }
+    auto* fields = new QWidget(this);
+    auto* rows = new QVBoxLayout(fields);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(14);
+    auto* boxes = new QFormLayout;
+    boxes->addRow(QStringLiteral("用户名："), txtUsrNm_);
+    boxes->addRow(QStringLiteral("密　码："), txtUsrPwd_);
+    rows->addLayout(boxes);
+    rows->addWidget(rights);
+    rows->addStretch();
+    return fields;
+}
+
 int frmUserMng::exec() {
-    return store_ != nullptr ? Screen::exec() : Rejected;
+    return users_ != nullptr ? Screen::exec() : Rejected;
 }
 
 void frmUserMng::Load() {
     MessageNotice notice(this);
-    std::unique_ptr<Connection> store = OpenUserStore(App(), notice);
-    if (store == nullptr) return;
-    users_ = ListUsers(*store);
-    for (const User& user : users_) lvw_->AddRow(ToRow(user));
-    store_ = std::move(store);
+    std::unique_ptr<Connection> users = OpenUserStore(App(), notice);
+    if (users == nullptr) return;
+    accounts_ = LoadUserAccounts(*users);
+    for (const UserAccount& account : accounts_) lvw_->AddRow({ToQt(account.name)});
+    users_ = std::move(users);
+    if (!accounts_.empty()) lvw_->SelectRow(0);
 }
 
-void frmUserMng::ShowSelected() {
-    const int row = lvw_->SelectedRow();
-    const User user = row < 0 ? User() : users_[static_cast<std::size_t>(row)];
-    txtUsrNm_->setText(ToQt(user.name));
-    txtUsrPwd_->setText(ToQt(user.scrambledPassword));
-    CheckRights(user.rights);
+void frmUserMng::Enter(Mode mode) {
+    mode_ = mode;
+    const bool isBrowsing = mode == Mode::Browse;
+    txtUsrNm_->setEnabled(mode == Mode::Add);
+    txtUsrPwd_->setEnabled(mode == Mode::Add);
+    for (QCheckBox* box : chkAuth_) box->setEnabled(!isBrowsing);
+    // A click on another user would overwrite what was typed for the new one.
+    lvw_->setEnabled(mode != Mode::Add);
+    for (const Command command : {kAdd, kEdit, kDelete}) cmdOpr_[command]->setEnabled(isBrowsing);
+    for (const Command command : {kSave, kCancel}) cmdOpr_[command]->setEnabled(!isBrowsing);
+    cmdOpr_[isBrowsing ? kEdit : kSave]->setDefault(true);
 }
 
-void frmUserMng::Add() {
-    isAdding_ = true;
+void frmUserMng::StartAdding() {
     txtUsrNm_->clear();
     txtUsrPwd_->clear();
-    CheckRights({});
-    EnableNameAndPassword(true);
+    ShowRights({});
+    Enter(Mode::Add);
     txtUsrNm_->setFocus();
 }
 
-void frmUserMng::Edit() {
-    if (users_.empty()) return Tell(QStringLiteral("没有可编辑的用户！"), kTitle);
+void frmUserMng::StartEditing() {
+    if (accounts_.empty()) {
+        UseDialogs().Message(this, QStringLiteral("没有可编辑的用户！"), kTitle, NoticeIcon::Information);
+        return;
+    }
     if (txtUsrNm_->text().isEmpty()) ShowSelected();
-    isAdding_ = false;
-    EnableNameAndPassword(false);
+    Enter(Mode::Edit);
 }
 
 void frmUserMng::Delete() {
-    if (users_.empty()) return Tell(QStringLiteral("没有可删除的用户！"), kTitle);
+    const auto refuse = [this](const QString& text) {
+        UseDialogs().Message(this, text, kTitle, NoticeIcon::Information);
+    };
     const int row = lvw_->SelectedRow();
-    if (row < 0) return Tell(QStringLiteral("请选择要删除的用户！"), kTitle);
-    const std::string name = users_[static_cast<std::size_t>(row)].name;
-    if (IsAdministrator(name)) return Tell(QStringLiteral("系统管理员不能删除！"), kTitle);
+    if (accounts_.empty()) return refuse(QStringLiteral("没有可删除的用户！"));
+    if (row < 0) return refuse(QStringLiteral("请选择要删除的用户！"));
+    const std::string name = accounts_[static_cast<std::size_t>(row)].name;
+    if (name == kAdministrator) return refuse(QStringLiteral("系统管理员不能删除！"));
     if (!UseDialogs().AskOkCancel(this, QStringLiteral("确认要删除该用户吗？") + ToQt(name), kTitle)) return;
-    DeleteUser(*store_, name);
-    users_.erase(users_.begin() + row);
+    DeleteUserAccount(*users_, name);
+    accounts_.erase(accounts_.begin() + row);
     lvw_->RemoveRow(row);
     ShowSelected();
 }
 
 void frmUserMng::Save() {
-    const std::string name = FromQt(txtUsrNm_->text());
-    const std::string password = FromQt(txtUsrPwd_->text());
-    if (name.empty()) return Tell(QStringLiteral("用户名不能为空！"), kTitle);
-    if (password.empty()) return Tell(QStringLiteral("用户名密码不能为空！"), kTitle);
-    if (isAdding_) {
-        SaveNew(name, password);
-    } else {
-        SaveRights(name);
+    const auto refuse = [this](const QString& text, QLineEdit* box) {
+        UseDialogs().Message(this, text, kTitle, NoticeIcon::Information);
+        box->setFocus();
+    };
+    if (txtUsrNm_->text().isEmpty()) return refuse(QStringLiteral("用户名不能为空！"), txtUsrNm_);
+    if (txtUsrPwd_->text().isEmpty()) return refuse(QStringLiteral("用户名密码不能为空！"), txtUsrPwd_);
+    mode_ == Mode::Add ? SaveNew() : SaveRights();
+}
+
+void frmUserMng::SaveNew() {
+    const std::optional<UserAccount> added =
+        AddUserAccount(*users_, FromQt(txtUsrNm_->text()), FromQt(txtUsrPwd_->text()), RightsOfBoxes());
+    if (!added) {
+        UseDialogs().Message(this, QStringLiteral("用户名已存在，不能添加重复的项！"),
+                             QStringLiteral("提示！"), NoticeIcon::Information);
+        txtUsrNm_->setFocus();
+        txtUsrNm_->selectAll();
+        return;
+    }
+    accounts_.push_back(*added);
+    Enter(Mode::Browse);
+    lvw_->SelectRow(lvw_->AddRow({ToQt(added->name)}));
+}
+
+void frmUserMng::SaveRights() {
+    UserAccount& account = accounts_[static_cast<std::size_t>(lvw_->SelectedRow())];
+    const std::string rights = RightsOfBoxes();
+    ChangeUserRights(*users_, account.name, rights);
+    account.rights = rights;
+    Enter(Mode::Browse);
+}
+
+void frmUserMng::ShowSelected() {
+    const int row = lvw_->SelectedRow();
+    const UserAccount account = row < 0 ? UserAccount() : accounts_[static_cast<std::size_t>(row)];
+    txtUsrNm_->setText(ToQt(account.name));
+    txtUsrPwd_->setText(ToQt(account.password));
+    ShowRights(account.rights);
+}
+
+void frmUserMng::ShowRights(const std::string& rights) {
+    const QString characters = ToQt(rights);
+    for (int i = 0; i < kRightCount; ++i) {
+        chkAuth_[static_cast<std::size_t>(i)]->setChecked(i < characters.size() &&
+                                                          characters[i] == QLatin1Char('1'));
     }
 }
 
-void frmUserMng::SaveNew(const std::string& name, const std::string& password) {
-    if (UserExists(*store_, name)) {
-        return Tell(QStringLiteral("用户名已存在，不能添加重复的项！"), QStringLiteral("提示！"));
-    }
-    users_.push_back(AddUser(*store_, name, password, CheckedRights()));
-    lvw_->SelectRow(lvw_->AddRow(ToRow(users_.back())));
-    EnableNameAndPassword(false);
-}
-
-void frmUserMng::SaveRights(const std::string& name) {
-    UpdateRights(*store_, name, CheckedRights());
-    for (std::size_t i = 0; i < users_.size(); ++i) {
-        if (users_[i].name != name) continue;
-        users_[i].rights = CheckedRights();
-        lvw_->SetRow(static_cast<int>(i), ToRow(users_[i]));
-    }
-    EnableNameAndPassword(false);
-}
-
-void frmUserMng::Cancel() {
-    ShowSelected();
-    EnableNameAndPassword(false);
-}
-
-void frmUserMng::Tell(const QString& text, const QString& title) {
-    UseDialogs().Message(this, text, title, NoticeIcon::Information);
-}
-
-void frmUserMng::EnableNameAndPassword(bool enabled) {
-    txtUsrNm_->setEnabled(enabled);
-    txtUsrPwd_->setEnabled(enabled);
-}
-
-std::string frmUserMng::CheckedRights() const {
+std::string frmUserMng::RightsOfBoxes() const {
     std::string rights;
     for (const QCheckBox* box : chkAuth_) rights += box->isChecked() ? '1' : '0';
     return rights;
-}
-
-void frmUserMng::CheckRights(const std::string& rights) {
-    const QString characters = ToQt(rights);
-    for (std::size_t i = 0; i < chkAuth_.size(); ++i) {
-        chkAuth_[i]->setChecked(characters.mid(static_cast<int>(i), 1) == QStringLiteral("1"));
-    }
 }
 
 }  // namespace kalvane

@@ -2,11 +2,10 @@
 
 #include <array>
 #include <memory>
-#include <string>
 #include <vector>
 
 #include "app/rights.h"
-#include "app/user_admin.h"
+#include "app/user_accounts.h"
 #include "ui/screen.h"
 
 class QCheckBox;
@@ -17,39 +16,41 @@ namespace kalvane {
 
 class ReportList;
 
-/// The users and what they may reach. It has the user store open while it lives.
+/// The users and their rights. It has the user store open while it lives.
 class frmUserMng : public Screen {
     Q_OBJECT
 
   public:
-    explicit frmUserMng(QWidget* parent);
+    explicit frmUserMng(QWidget* parent = nullptr);
 
     /// Ends at once, after a message, when the user store cannot be opened.
     int exec() override;
 
   private:
+    enum Command { kAdd, kEdit, kDelete, kSave, kCancel, kCommandCount };
+    enum class Mode { Browse, Add, Edit };
+
+    QWidget* MakeFields();
     void Load();
-    void ShowSelected();
-    void Add();
-    void Edit();
+    void StartAdding();
+    void StartEditing();
     void Delete();
     void Save();
-    void SaveNew(const std::string& name, const std::string& password);
-    void SaveRights(const std::string& name);
-    void Cancel();
+    void SaveNew();
+    void SaveRights();
+    void Enter(Mode mode);
+    void ShowSelected();
+    void ShowRights(const std::string& rights);
+    std::string RightsOfBoxes() const;
 
-    void Tell(const QString& text, const QString& title);
-    void EnableNameAndPassword(bool enabled);
-    std::string CheckedRights() const;
-    void CheckRights(const std::string& rights);
-
-    std::unique_ptr<Connection> store_;
-    std::vector<User> users_;  ///< row by row as in the list
+    std::unique_ptr<Connection> users_;
+    std::vector<UserAccount> accounts_;  ///< by row of the list
+    Mode mode_ = Mode::Browse;
     ReportList* lvw_;
     QLineEdit* txtUsrNm_;
     QLineEdit* txtUsrPwd_;
-    std::array<QCheckBox*, kRightCount> chkAuth_;
-    bool isAdding_ = false;  ///< what the last of the commands add and edit was
+    std::array<QCheckBox*, kRightCount> chkAuth_ = {};
+    std::array<QPushButton*, kCommandCount> cmdOpr_ = {};
 };
 
 }  // namespace kalvane

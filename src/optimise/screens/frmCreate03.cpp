@@ -1,6 +1,5 @@
 #include "optimise/screens/frmCreate03.h"
 
-#include <QApplication>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -8,6 +7,7 @@
 #include "optimise/run.h"
 #include "optimise/screens/frmResult.h"
 #include "optimise/screens/pick_lists.h"
+#include "optimise/screens/run_panel.h"
 #include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/message_notice.h"
@@ -19,24 +19,6 @@ namespace {
 
 constexpr QSize kFirstSize(680, 460);
 
-/// Keeps the operator off the screen while it works, with the pointer that says so.
-class Busy {
-  public:
-    explicit Busy(QWidget* screen) : screen_(screen) {
-        screen_->setEnabled(false);
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    }
-    Busy(const Busy&) = delete;
-    Busy& operator=(const Busy&) = delete;
-    ~Busy() {
-        QApplication::restoreOverrideCursor();
-        screen_->setEnabled(true);
-    }
-
-  private:
-    QWidget* screen_;
-};
-
 }  // namespace
 
 frmCreate03::frmCreate03(QWidget* parent)
@@ -44,17 +26,11 @@ frmCreate03::frmCreate03(QWidget* parent)
       lists_(new PickLists(
           {QStringLiteral("规格")},
           {QStringLiteral("->"), QStringLiteral("<-"), QStringLiteral(">>"), QStringLiteral("<<")}, this)),
-      progressBar_(new QProgressBar(this)) {
-    progressBar_->setObjectName(QStringLiteral("ProgressBar"));
-    progressBar_->setTextVisible(false);
-    QSizePolicy room = progressBar_->sizePolicy();
-    room.setRetainSizeWhenHidden(true);
-    progressBar_->setSizePolicy(room);
-    progressBar_->hide();
+      runPanel_(new RunPanel(this)) {
     QPushButton* next = MakeButton("CmdNext", QStringLiteral("&Y 优化"), this);
     next->setDefault(true);
     QPushButton* exit = MakeButton("Command1", QStringLiteral("&E 退出"), this);
-    LayOutAboveButtons(this, lists_, {next, exit}, progressBar_);
+    LayOutAboveButtons(this, lists_, {next, exit}, runPanel_);
     resize(kFirstSize);
 
     OnSignal(next, &QPushButton::clicked, this, [this] { Next(); });
@@ -69,6 +45,7 @@ void frmCreate03::Load() {
 }
 
 void frmCreate03::Next() {
+    if (runPanel_->IsRunning()) return;
     std::vector<std::string> materials;
     for (int row = 0; row < lists_->Chosen().RowCount(); ++row) {
         materials.push_back(FromQt(lists_->Chosen().Text(row, 0)));
@@ -78,24 +55,28 @@ void frmCreate03::Next() {
 }
 
 void frmCreate03::Run(const std::vector<std::string>& materials) {
-    progressBar_->setRange(1, static_cast<int>(materials.size()) + 1);
-    progressBar_->setValue(1);
-    progressBar_->show();
+    QProgressBar& bar = runPanel_->Bar();
+    bar.setRange(1, static_cast<int>(materials.size()) + 1);
+    bar.setValue(1);
     MessageNotice notice(this);
-    {
-        const Busy busy(this);
-        RunOptimisation(App().Main(), App().optimise, App().YHScheme, materials, notice,
-                        [this](std::size_t material) { ShowProgress(material); });
-    }
-    progressBar_->hide();
+    runPanel_->Run(
+        [&](const RunProgress& progress) {
+            return RunOptimisation(App().Main(), App().optimise, App().YHScheme, materials, notice, progress);
+        },
+        [&](const RunStage& stage) {
+            const int row = static_cast<int>(stage.material);
+            bar.setValue(row + 2);
+            if (App().YHScheme != 0) lists_->Chosen().SelectRow(row);
+            return QStringLiteral("材料 %1 / %2，已排 %3 / %4 件")
+                .arg(row + 1)
+                .arg(materials.size())
+                .arg(stage.placed)
+                .arg(stage.pieces);
+        });
 }
 
-void frmCreate03::ShowProgress(std::size_t material) {
-    const int row = static_cast<int>(material);
-    progressBar_->setValue(row + 2);
-    if (App().YHScheme != 0) lists_->Chosen().SelectRow(row);
-    // The screen repaints, but takes no input: the run must not be started twice.
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+void frmCreate03::done(int result) {
+    if (!runPanel_->RefusesToClose()) EntryScreen::done(result);
 }
 
 }  // namespace kalvane

@@ -5,11 +5,10 @@
 
 #include "ui/entry_screen.h"
 
-class QProgressBar;
-
 namespace kalvane {
 
 class PickLists;
+class RunPanel;
 
 /// Third step of an optimisation: the materials, and the run.
 class frmCreate03 : public EntryScreen {
@@ -18,14 +17,15 @@ class frmCreate03 : public EntryScreen {
   public:
     explicit frmCreate03(QWidget* parent);
 
+    void done(int result) override;
+
   private:
     void Load();
     void Next();
     void Run(const std::vector<std::string>& materials);
-    void ShowProgress(std::size_t material);
 
     PickLists* lists_;
-    QProgressBar* progressBar_;
+    RunPanel* runPanel_;
 };
 
 }  // namespace kalvane

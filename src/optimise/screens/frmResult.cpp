@@ -1,35 +1,34 @@
 #include "optimise/screens/frmResult.h"
 
 #include <QDate>
-#include <QDesktopServices>
-#include <QGroupBox>
 #include <QPushButton>
-#include <QSplitter>
-#include <QUrl>
-#include <QVBoxLayout>
+#include <QTabWidget>
 
 #include "app/app_state.h"
+#include "optimise/piece_labels.h"
 #include "optimise/plan.h"
+#include "optimise/plan_report.h"
 #include "optimise/plan_text.h"
 #include "optimise/plan_workbook.h"
+#include "optimise/plan_yield.h"
+#include "optimise/screens/cut_diagram_view.h"
+#include "optimise/screens/yield_columns.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
+#include "ui/open_document.h"
+#include "ui/page_output.h"
 #include "ui/report_list.h"
+#include "ui/report_output.h"
 #include "ui/text.h"
 
 namespace kalvane {
 namespace {
 
 constexpr QSize kFirstSize(860, 600);
+const QStringList kTotalHeadings{QStringLiteral("材料名称"), QStringLiteral("数量"),
+                                 QStringLiteral("优化比率")};
 const QString kFolderPurpose = QStringLiteral("plan");
-
-QWidget* Framed(const QString& title, QWidget* list) {
-    auto* frame = new QGroupBox(title);
-    auto* inside = new QVBoxLayout(frame);
-    inside->addWidget(list);
-    return frame;
-}
 
 template <typename Row>
 void AddRows(ReportList& list, const std::vector<Row>& rows) {
@@ -47,27 +46,38 @@ frmResult::frmResult(QWidget* parent)
       lvw1_(new ReportList(QStringLiteral("Lvw1"),
                            {QStringLiteral("材料名称"), QStringLiteral("切割规格"), QStringLiteral("数量"),
                             QStringLiteral("优化比率"), QStringLiteral("剩余料长")})),
-      lvw2_(new ReportList(QStringLiteral("Lvw2"), {QStringLiteral("材料名称"), QStringLiteral("数量"),
-                                                    QStringLiteral("优化比率")})) {
+      lvw2_(new ReportList(QStringLiteral("Lvw2"), kTotalHeadings + YieldColumns::Headings())),
+      yield_(new YieldColumns(lvw2_, static_cast<int>(kTotalHeadings.size()))),
+      diagram_(new CutDiagramView) {
     QPushButton* printCuts = MakeButton("cmdPrint", QStringLiteral("&P 打印切割"), this);
     QPushButton* printTotals = MakeButton("cmdPrint1", QStringLiteral("&P 打印统计"), this);
     QPushButton* save = MakeButton("CmdSave", QStringLiteral("&S 输出"), this,
                                    QStringLiteral("按“设置”中的导出文件类型输出两张表"));
     QPushButton* exit = MakeButton("CmdExit", QStringLiteral("&E 返回"), this);
-    MarkAsComing(printCuts);
-    MarkAsComing(printTotals);
     save->setDefault(true);
 
-    auto* frames = new QSplitter(Qt::Vertical, this);
-    frames->setChildrenCollapsible(false);
-    frames->addWidget(Framed(QStringLiteral("材料切割表"), lvw1_));
-    frames->addWidget(Framed(QStringLiteral("材料统计表"), lvw2_));
-    frames->setStretchFactor(0, 2);
-    frames->setStretchFactor(1, 1);
-    LayOutAboveButtons(this, frames, {printCuts, printTotals, save, exit});
+    QPushButton* printDiagram = MakeButton("CmdPrintCut", QStringLiteral("切割图… &G"), this,
+                                           QStringLiteral("预览切割图，打印或存为 PDF"));
+    QPushButton* printLabels = MakeButton("CmdLabels", QStringLiteral("标签… &L"), this,
+                                          QStringLiteral("每件料一张标签，每页 3 x 8 张，打印或存为 PDF"));
+    auto* cuts = new QWidget;
+    LayOutAboveButtons(cuts, diagram_, {printDiagram, printLabels});
+
+    auto* tabs = new QTabWidget(this);
+    tabs->setObjectName(QStringLiteral("Tab1"));
+    tabs->addTab(lvw1_, QStringLiteral("材料切割表"));
+    tabs->addTab(lvw2_, QStringLiteral("材料统计表"));
+    tabs->addTab(cuts, QStringLiteral("切割图"));
+    LayOutAboveButtons(this, tabs, {printCuts, printTotals, save, exit});
     resize(kFirstSize);
 
+    OnSignal(printDiagram, &QPushButton::clicked, this, [this] { PrintDiagram(); });
+    OnSignal(printLabels, &QPushButton::clicked, this, [this] { PrintLabels(); });
     OnSignal(save, &QPushButton::clicked, this, [this] { PutOut(); });
+    OnSignal(printCuts, &QPushButton::clicked, this,
+             [this] { PrintReport(this, dsYHB(App().Main(), App().optimiseProjectName)); });
+    OnSignal(printTotals, &QPushButton::clicked, this,
+             [this] { PrintReport(this, dsYHBT(App().Main(), App().optimiseProjectName)); });
     OnSignal(exit, &QPushButton::clicked, this, [this] { reject(); });
     Guarded(this, [this] { Load(); });
 }
@@ -75,6 +85,35 @@ frmResult::frmResult(QWidget* parent)
 void frmResult::Load() {
     AddRows(*lvw1_, LoadCutTable(App().Main()));
     AddRows(*lvw2_, LoadTotalTable(App().Main()));
+    const std::vector<PlanRow> plan = LoadSummedPlan(App().Main());
+    yield_->Show(PlanYield(plan, App().optimise), App().optimise.CLC);
+    diagram_->Show(std::make_unique<CutDiagram>(plan, App().optimise));
+}
+
+void frmResult::PrintDiagram() {
+    const CutDiagram diagram(LoadSummedPlan(App().Main()), App().optimise);
+    PageSetup setup;
+    setup.orientation = QPageLayout::Landscape;
+    PrintOrTell(diagram.RowCount() == 0, QStringLiteral("切割图"), setup,
+                [&](PageTarget& target) { diagram.PaintPages(target, App().optimiseProjectName); });
+}
+
+void frmResult::PrintLabels() {
+    const std::vector<PieceLabel> labels = PieceLabels(LoadSummedPlan(App().Main()));
+    PageSetup setup;
+    setup.margins = QMarginsF();
+    PrintOrTell(labels.empty(), QStringLiteral("切割标签"), setup,
+                [&](PageTarget& target) { PaintLabels(target, labels); });
+}
+
+void frmResult::PrintOrTell(bool isEmpty, const QString& title, const PageSetup& setup,
+                            const PaintPages& paint) {
+    if (isEmpty) {
+        UseDialogs().Message(this, QStringLiteral("没有优化结果。"), QStringLiteral("提示"),
+                             NoticeIcon::Information);
+        return;
+    }
+    PrintDocument(this, title, setup, paint);
 }
 
 void frmResult::PutOut() {
@@ -99,7 +138,7 @@ void frmResult::PutOutWorkbook(const PlanOutput& plan) {
         this, kFolderPurpose, QStringLiteral("Excel 工作簿|*.xlsx"), QStringLiteral("xlsx"), true);
     if (file.isEmpty()) return;
     PlanWorkbook(plan).Save(FromQt(file));
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(file))) {
+    if (!OpenDocument(file)) {
         UseDialogs().Message(this, QStringLiteral("确认您的系统中是否安装了Excel软件或版本不兼容！"),
                              QStringLiteral("提示"), NoticeIcon::Information);
     }

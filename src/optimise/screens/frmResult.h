@@ -1,13 +1,16 @@
 #pragma once
 
+#include "ui/page_document.h"
 #include "ui/screen.h"
 
 namespace kalvane {
 
+class CutDiagramView;
 class ReportList;
+class YieldColumns;
 struct PlanOutput;
 
-/// The cutting plan in 优化结果 and its totals by material.
+/// The cutting plan in 优化结果: its bars, its totals by material, and 切割图.
 class frmResult : public Screen {
     Q_OBJECT
 
@@ -16,12 +19,17 @@ class frmResult : public Screen {
 
   private:
     void Load();
+    void PrintDiagram();
+    void PrintLabels();
+    void PrintOrTell(bool isEmpty, const QString& title, const PageSetup& setup, const PaintPages& paint);
     void PutOut();
     void PutOutText(const PlanOutput& plan);
     void PutOutWorkbook(const PlanOutput& plan);
 
     ReportList* lvw1_;
     ReportList* lvw2_;
+    YieldColumns* yield_;
+    CutDiagramView* diagram_;
 };
 
 }  // namespace kalvane

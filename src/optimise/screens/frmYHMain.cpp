@@ -10,8 +10,8 @@
 #include "app/help_text.h"
 #include "app/screens/frmHelp.h"
 #include "optimise/screens/frmCreate01.h"
+#include "optimise/screens/frmHandup.h"
 #include "optimise/screens/frmOption.h"
-#include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/text.h"
 
@@ -34,16 +34,14 @@ frmYHMain::frmYHMain(QWidget* parent)
     toolbar->setIconSize(QSize(kToolbarIcon, kToolbarIcon));
     toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     scheme_ =
-        AddButton(*toolbar, 1, App().YHScheme == 0 ? kFirstScheme : kSecondScheme, QStringLiteral("drawing"));
+        AddButton(*toolbar, 1, App().YHScheme == 0 ? kFirstScheme : kSecondScheme, QStringLiteral("scheme"));
     scheme_->setToolTip(QStringLiteral("切换优化方案"));
     toolbar->addSeparator();
     QAction* project = AddButton(*toolbar, 3, QStringLiteral("工程优化"), QStringLiteral("optimise"));
-    QAction* manual = AddButton(*toolbar, 4, QStringLiteral("手工优化"), QStringLiteral("design"));
+    QAction* manual = AddButton(*toolbar, 4, QStringLiteral("手工优化"), QStringLiteral("manual"));
     QAction* options = AddButton(*toolbar, 5, QStringLiteral("选项设置"), QStringLiteral("settings"));
     QAction* help = AddButton(*toolbar, 6, QStringLiteral("使用说明"), QStringLiteral("help"));
     QAction* exit = AddButton(*toolbar, 7, QStringLiteral("关闭窗口"), QStringLiteral("exit"));
-    manual->setEnabled(false);
-    manual->setToolTip(ComingToolTip());
 
     auto* group = new QGroupBox(QStringLiteral("当前设置"), this);
     auto* inside = new QVBoxLayout(group);
@@ -57,6 +55,7 @@ frmYHMain::frmYHMain(QWidget* parent)
 
     OnSignal(scheme_, &QAction::triggered, this, [this] { SwitchScheme(); });
     OnSignal(project, &QAction::triggered, this, [this] { frmCreate01(this).exec(); });
+    OnSignal(manual, &QAction::triggered, this, [this] { frmHandup(this).exec(); });
     OnSignal(options, &QAction::triggered, this, [this] { ShowOptions(); });
     OnSignal(help, &QAction::triggered, this, [this] { ShowHelp(); });
     OnSignal(exit, &QAction::triggered, this, [this] { close(); });

@@ -1,0 +1,44 @@
+#include "drawing/screens/frmInput.h"
+
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/command_buttons.h"
+#include "ui/guard.h"
+
+namespace kalvane {
+namespace {
+constexpr int kBoxWidth = 260;
+constexpr int kLongest = 50;  // what the library holds
+}  // namespace
+
+frmInput::frmInput(QWidget* parent)
+    : Screen(QStringLiteral("frmInput"), QStringLiteral("输入文字"), parent), text1_(new QLineEdit(this)) {
+    setWindowFlag(Qt::WindowMaximizeButtonHint, false);
+    text1_->setObjectName(QStringLiteral("Text1"));
+    text1_->setMinimumWidth(kBoxWidth);
+    text1_->setMaxLength(kLongest);
+    auto* fields = new QFormLayout;
+    fields->addRow(QStringLiteral("输入文字："), text1_);
+    QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定"), this);
+    ok->setDefault(true);
+    QPushButton* cancel = MakeButton("CancelButton", QStringLiteral("取消"), this);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(20, 20, 20, 16);
+    rows->setSpacing(18);
+    rows->addLayout(fields);
+    rows->addLayout(ButtonRow({ok, cancel}));
+    rows->setSizeConstraint(QLayout::SetFixedSize);
+
+    OnSignal(ok, &QPushButton::clicked, this, [this] { Confirm(); });
+    OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
+}
+
+void frmInput::Confirm() {
+    text_ = text1_->text();
+    accept();
+}
+
+}  // namespace kalvane

@@ -1,0 +1,109 @@
+#include "drawing/screens/frmOpenPicture.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <memory>
+
+#include "app/app_state.h"
+#include "drawing/cpictire.h"
+#include "drawing/drawing_library.h"
+#include "store/field_slots.h"
+#include "ui/command_buttons.h"
+#include "ui/dialogs.h"
+#include "ui/guard.h"
+#include "ui/picture_box.h"
+#include "ui/report_list.h"
+#include "ui/text.h"
+
+namespace kalvane {
+namespace {
+constexpr QSize kFirstSize(900, 520);
+constexpr int kListWidth = 340;
+constexpr int kNameColumn = 0;
+constexpr int kNumberColumn = 1;
+const QString kTitle = QStringLiteral("提示");
+}  // namespace
+
+frmOpenPicture::frmOpenPicture(QWidget* parent)
+    : Screen(QStringLiteral("frmOpenPicture"), QStringLiteral("打开门窗图"), parent),
+      lvw_(new ReportList(QStringLiteral("lvw"), {QStringLiteral("图名"), QStringLiteral("编号")}, this)),
+      txtCBN_(new QLineEdit(this)),
+      picture_(new PictureBox(QStringLiteral("PicMC"), this)),
+      notice_(this) {
+    txtCBN_->setObjectName(QStringLiteral("txtCBN"));
+    txtCBN_->setReadOnly(true);
+    lvw_->setMinimumWidth(kListWidth);
+    QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定"), this, QStringLiteral("Enter 或双击"));
+    ok->setDefault(true);
+    QPushButton* del = MakeButton("CmdDel", QStringLiteral("删除"), this, QStringLiteral("Delete"));
+    del->setAutoDefault(false);
+    QPushButton* cancel = MakeButton("CancelButton", QStringLiteral("取消"), this, QStringLiteral("Esc"));
+    cancel->setAutoDefault(false);
+
+    auto* number = new QFormLayout;
+    number->addRow(QStringLiteral("图形编号："), txtCBN_);
+    auto* shown = new QVBoxLayout;
+    shown->addWidget(picture_, 1);
+    shown->addLayout(number);
+    auto* body = new QHBoxLayout;
+    body->addWidget(lvw_);
+    body->addLayout(shown, 1);
+    auto* rows = new QVBoxLayout(this);
+    rows->addLayout(body, 1);
+    rows->addLayout(ButtonRow({ok, del, cancel}));
+    resize(kFirstSize);
+
+    PressOnKey(lvw_, Qt::Key_Delete, del);
+    OnSignal(lvw_, &ReportList::itemSelectionChanged, this, [this] { ShowSelected(); });
+    OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Confirm(); });
+    OnSignal(ok, &QPushButton::clicked, this, [this] { Confirm(); });
+    OnSignal(del, &QPushButton::clicked, this, [this] { Delete(); });
+    OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
+    Guarded(this, [this] { Load(); });
+}
+
+void frmOpenPicture::Load() {
+    for (const DrawingEntry& drawing : ListDrawings(App().Main())) {
+        lvw_->AddRow({ToQt(drawing.name), ToQt(drawing.number)});
+    }
+}
+
+void frmOpenPicture::ShowSelected() {
+    const int row = lvw_->SelectedRow();
+    txtCBN_->setText(row < 0 ? QString() : lvw_->Text(row, kNumberColumn));
+    picture_->SetPersistent({});
+    if (row < 0) return;
+    auto drawing = std::make_shared<CPictire>(notice_);
+    drawing->OpenFileEX(App().Main(), FromQt(txtCBN_->text()));
+    picture_->SetPersistent(
+        [drawing](PainterTarget& target, Box inner) { drawing->PrintPic(target, kFrame, inner); });
+}
+
+bool frmOpenPicture::HasSelection() {
+    if (lvw_->SelectedRow() >= 0) return true;
+    UseDialogs().Message(this, QStringLiteral("无选取图形！"), kTitle, NoticeIcon::Information);
+    return false;
+}
+
+void frmOpenPicture::Confirm() {
+    if (!HasSelection()) return;
+    const int row = lvw_->SelectedRow();
+    FieldSlots& slots = SharedFieldSlots();
+    slots[0] = FromQt(lvw_->Text(row, kNumberColumn));
+    slots[1] = FromQt(lvw_->Text(row, kNameColumn));
+    accept();
+}
+
+void frmOpenPicture::Delete() {
+    if (!HasSelection()) return;
+    const int row = lvw_->SelectedRow();
+    const QString question = QStringLiteral("确定要删除吗？(%1)").arg(lvw_->Text(row, kNameColumn));
+    if (!UseDialogs().AskYesNo(this, question, kTitle)) return;
+    DeleteDrawing(App().Main(), FromQt(lvw_->Text(row, kNumberColumn)));
+    lvw_->RemoveRow(row);
+}
+
+}  // namespace kalvane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ui/message_notice.h"
+#include "ui/screen.h"
+
+class QLineEdit;
+
+namespace kalvane {
+
+class PictureBox;
+class ReportList;
+
+/// The drawings of the library with a preview. A choice comes back in the shared slots: the number in slot 0,
+/// the name in slot 1.
+class frmOpenPicture final : public Screen {
+    Q_OBJECT
+
+  public:
+    explicit frmOpenPicture(QWidget* parent);
+
+  private:
+    void Load();
+    /// Shows number and picture of the selected drawing, or that there is none.
+    void ShowSelected();
+    void Confirm();
+    void Delete();
+    bool HasSelection();
+
+    ReportList* lvw_;
+    QLineEdit* txtCBN_;
+    PictureBox* picture_;
+    MessageNotice notice_;
+};
+
+}  // namespace kalvane

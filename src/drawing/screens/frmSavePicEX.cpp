@@ -1,0 +1,82 @@
+#include "drawing/screens/frmSavePicEX.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/app_state.h"
+#include "drawing/drawing_library.h"
+#include "store/field_slots.h"
+#include "ui/command_buttons.h"
+#include "ui/dialogs.h"
+#include "ui/guard.h"
+#include "ui/text.h"
+
+namespace kalvane {
+namespace {
+constexpr int kBoxWidth = 280;
+constexpr int kLongestName = 50;
+constexpr int kSelected = 10;
+const QString kTitle = QStringLiteral("提示");
+}  // namespace
+
+frmSavePicEX::frmSavePicEX(QWidget* parent)
+    : EntryScreen(QStringLiteral("frmSavePicEX"), QStringLiteral("保存文件名"), parent),
+      name_(new QLineEdit(this)),
+      number_(new QLineEdit(this)) {
+    setWindowFlag(Qt::WindowMaximizeButtonHint, false);
+    name_->setObjectName(QStringLiteral("Text1"));
+    name_->setMinimumWidth(kBoxWidth);
+    name_->setMaxLength(kLongestName);
+    number_->setObjectName(QStringLiteral("Text2"));
+    auto* label1 = new QLabel(QStringLiteral("文件名："), this);
+    label1->setObjectName(QStringLiteral("Label1"));
+    auto* label2 = new QLabel(QStringLiteral("图形编号："), this);
+    label2->setObjectName(QStringLiteral("Label2"));
+    auto* fields = new QFormLayout;
+    fields->setSpacing(10);
+    fields->addRow(label1, name_);
+    fields->addRow(label2, number_);
+
+    QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定"), this);
+    ok->setDefault(true);
+    QPushButton* cancel = MakeButton("CancelButton", QStringLiteral("取消"), this);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(20, 20, 20, 16);
+    rows->setSpacing(18);
+    rows->addLayout(fields);
+    rows->addLayout(ButtonRow({ok, cancel}));
+    rows->setSizeConstraint(QLayout::SetFixedSize);
+
+    OnEnter(name_, [this] { Confirm(); });
+    OnEnter(number_, [this] { Confirm(); });
+    OnSignal(ok, &QPushButton::clicked, this, [this] { Confirm(); });
+    OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
+    Guarded(this, [this] { number_->setText(ToQt(NextDrawingNumber(App().Main()))); });
+}
+
+void frmSavePicEX::Confirm() {
+    const QString number = number_->text().trimmed();
+    number_->setText(number);
+    if (DrawingExists(App().Main(), FromQt(number))) {
+        UseDialogs().Message(this, QStringLiteral("该编号已存在，请重新输入新的编号。"), kTitle,
+                             NoticeIcon::Information);
+        number_->setFocus();
+        number_->setSelection(0, kSelected);
+        return;
+    }
+    const QString name = name_->text().trimmed();
+    if (name.isEmpty()) {
+        UseDialogs().Message(this, QStringLiteral("图形名称不能为空！"), kTitle, NoticeIcon::Information);
+        name_->setFocus();
+        return;
+    }
+    FieldSlots& slots = SharedFieldSlots();
+    slots[0] = FromQt(number);
+    slots[1] = FromQt(name);
+    accept();
+}
+
+}  // namespace kalvane

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "drawing/page_target.h"
+#include "report/report.h"
+
+namespace kalvane {
+
+/// Prints a report as one document. A row stands on one page, unless it is higher than a whole one; then it
+/// is divided between its lines.
+void PaintReport(PageTarget& page, const Report& report);
+
+}  // namespace kalvane

@@ -1,0 +1,134 @@
+#include "drawing/dxf_import.h"
+
+#include "drawing/recorders.h"
+#include "platform/code_page.h"
+#include "platform/error.h"
+#include "platform/files.h"
+#include "support/temp_folder.h"
+
+namespace kalvane::test {
+
+constexpr const char* kFull = "#Error|数组超出范围,请与程序员联系";
+
+class DxfImportTest : public testing::Test {
+  protected:
+    DxfSummary Import(const std::string& bytes) {
+        WriteFileAtomically(file_, bytes);
+        return ImportDxf(file_, picture_);
+    }
+
+    /// An entity as programs write it: padded codes, CR LF.
+    static std::string Entity(const char* kind, std::initializer_list<std::pair<int, const char*>> groups) {
+        std::string text = std::string("  0\r\n") + kind + "\r\n";
+        for (const auto& [code, value] : groups) {
+            text += (code < 10 ? "  " : " ") + std::to_string(code) + "\r\n" + value + "\r\n";
+        }
+        return text;
+    }
+    static std::string Entities(const std::string& entities) {
+        return "  0\r\nSECTION\r\n  2\r\nENTITIES\r\n" + entities + "  0\r\nENDSEC\r\n  0\r\nEOF\r\n";
+    }
+    static std::string Lines(int count) {
+        std::string text;
+        for (int i = 0; i < count; ++i) text += Entity("LINE", {{11, "1"}, {21, "2"}});
+        return Entities(text);
+    }
+
+    TempFolder folder_;
+    std::filesystem::path file_ = folder_ / "图.dxf";
+    RecordingNotice notice_;
+    CPictire picture_{notice_};
+};
+
+TEST_F(DxfImportTest, TakesThreeKindsAndTellsWhatItPassedOver) {
+    picture_.AddArc({});  // replaced with all else
+    const std::string line =
+        Entity("LINE", {{8, "0"}, {10, "1"}, {20, "2.5"}, {30, "0"}, {11, "-3"}, {21, "4e1"}});
+    const std::string box = Entity(
+        "LWPOLYLINE",
+        {{90, "4"}, {10, "1"}, {20, "2"}, {10, "3"}, {20, "4"}, {10, "5"}, {20, "6"}, {10, "7"}, {20, "8"}});
+    const std::string mark = Entity("DIMENSION", {{10, "5"},
+                                                  {20, "6"},
+                                                  {11, "7"},
+                                                  {21, "8"},
+                                                  {1, " B1 "},
+                                                  {13, "1"},
+                                                  {23, "2"},
+                                                  {14, "3"},
+                                                  {24, "4"},
+                                                  {1, "late"}});
+    const std::string others = Entity("CIRCLE", {{10, "9"}, {20, "9"}}) + Entity("TEXT", {{1, "h"}}) +
+                               Entity("CIRCLE", {}) + Entity("POLYLINE", {}) + Entity("VERTEX", {}) +
+                               Entity("SEQEND", {});
+    // Entities in a block stand before the section that counts, objects behind it.
+    const DxfSummary summary = Import(line + Entities(line + box + mark + others) + Entity("DICTIONARY", {}));
+    EXPECT_EQ(Describe(picture_), "Line 1,2.5 -3,40; Rec 1,2 5,6; Dim 1,2 3,4 5,6; String 7,8 B1");
+    EXPECT_EQ(DxfPrompt(summary),
+              "导入直线 1、矩形 1、标注 1、文字 1；略过 4 个图元：CIRCLE 2、POLYLINE 1、TEXT 1");
+}
+
+TEST_F(DxfImportTest, ScannerRules) {
+    const std::string triangle =
+        Entity("LWPOLYLINE", {{10, "1"}, {20, "2"}, {10, "3"}, {20, "4"}, {10, "5"}, {20, "6"}});
+    const std::string line = Entity("LINE", {{10, "7"}, {20, "8"}, {11, "9"}, {21, "10"}});
+    const struct {
+        std::string text;
+        const char* drawing;
+        const char* passedOver;  // behind the counts
+    } kCases[] = {
+        {line, "", "没有略过的图元"},  // no ENTITIES
+        {"ENTITIES\nLINE\n21\n4\n", "Line 0,0 0,4", "没有略过的图元"},
+        // A line may open with the word as the name of a layer, and a comma ends a token.
+        {"ENTITIES\n8\nLINE\n10,1,20,2\n11,3\r21,4\n", "Line 1,2 3,4", "没有略过的图元"},
+        {Entities(triangle + line + line), "Line 7,8 9,10; Rec 1,2 5,6", "略过 1 个图元：LINE 1"},
+        {Entities(Entity("DIMENSION", {{14, "1"}, {24, "2"}, {13, "3"}, {1, "late"}})),
+         "Dim 0,0 1,2 0,0; String 0,0 ", "没有略过的图元"},
+        {Entities(Entity("DIMENSION", {{1, ""}, {24, "2"}})), "Dim 0,0 0,2 0,0; String 0,0 ",
+         "没有略过的图元"},
+        {Entities(line) + line + "  0\r\nLINE\r\n 10\r\n", "Line 7,8 9,10; Line 7,8 9,10",
+         "没有略过的图元"},  // the word counts to the end; the file ends within the third
+    };
+    for (const auto& c : kCases) {
+        const std::string prompt = DxfPrompt(Import(c.text));
+        EXPECT_EQ(Describe(picture_), c.drawing) << c.text;
+        EXPECT_NE(prompt.find(c.passedOver), std::string::npos) << prompt;
+    }
+}
+
+TEST_F(DxfImportTest, TextsArriveReadable) {
+    const std::string mark = Entities(Entity("DIMENSION", {{1, "框厚KH1"}, {24, "0"}}));
+    for (const std::string& bytes : {mark, ToGbk(mark), "\xEF\xBB\xBF" + mark}) {
+        Import(bytes);
+        EXPECT_EQ(Describe(picture_), "Dim 0,0 0,0 0,0; String 0,0 框厚KH1");
+    }
+}
+
+TEST_F(DxfImportTest, EachLineTooManyIsToldButNotAHundredThousand) {
+    EXPECT_EQ(DxfPrompt(Import(Lines(400))), "导入直线 361、矩形 0、标注 0、文字 0；略过 39 个图元：LINE 39");
+    EXPECT_EQ(notice_.shown, std::vector<std::string>(39, kFull));
+    notice_.shown.clear();
+    EXPECT_EQ(Import(Lines(100000)).PassedOverCount(), 99639);
+    ASSERT_EQ(notice_.shown.size(), 51U);
+    EXPECT_EQ(notice_.shown[49], kFull);
+    EXPECT_EQ(notice_.shown[50], "#Error|后面还有超出范围的图元，不再逐个提示。");
+    picture_.AddLine({});  // and by hand it is told again
+    EXPECT_EQ(notice_.shown.back(), kFull);
+}
+
+TEST_F(DxfImportTest, BadFiles) {
+    picture_.AddLine({{1, 1}, {2, 2}});
+    EXPECT_THROW(ImportDxf(folder_ / "none.dxf", picture_), FileError);
+    EXPECT_THROW(ImportDxf(folder_.Path(), picture_), FileError);
+    EXPECT_THROW(ImportDxf("/dev/zero", picture_), FileError);
+    EXPECT_THROW(Import("ENTITIES\n" + std::string(1 << 20, 'x')), FileError);  // one line of a megabyte
+    EXPECT_EQ(Describe(picture_), "Line 1,1 2,2");
+    try {
+        Import(Entities(Entity("LINE", {{21, "3"}}) + Entity("LINE", {{10, "一"}})));
+        ADD_FAILURE();
+    } catch (const NumericError& error) {
+        EXPECT_STREQ(error.what(), "图形文件第 12 行的“一”不是数字。");
+    }
+    EXPECT_EQ(Describe(picture_), "Line 0,0 0,3");
+}
+
+}  // namespace kalvane::test

@@ -1,0 +1,79 @@
+#include "drawing/screens/frmViewMC.h"
+
+#include "drawing/mcpicture.h"
+#include "platform/files.h"
+#include "support/screens/screen_kit.h"
+
+namespace kalvane::test {
+
+class frmViewMCTest : public ScreenTest {
+  protected:
+    void SetUp() override {
+        ScreenTest::SetUp();
+        std::filesystem::create_directories(folder_ / "图/推拉");
+        // A line through the frame's middle, from edge to edge.
+        WriteFileAtomically(folder_ / "图/推拉/窗.mc", "Line\r\n0\r\n3967.5\r\n9495\r\n3967.5\r\n");
+        WriteFileAtomically(folder_ / "图/推拉/坏.MC", "Line\r\nx\r\n");
+        WriteFileAtomically(folder_ / "图/推拉/说明.txt", "");
+        settings_.Save(kSettingsApplication, kSectionMain, "PICTUREPATH", (folder_ / "图").string());
+    }
+
+    static QStringList Texts(const QListWidget* list) {
+        QStringList texts;
+        for (int i = 0; i < list->count(); ++i) texts << list->item(i)->text();
+        return texts;
+    }
+    static void Select(const QListWidget* list, const QString& text) {
+        list->findItems(text, Qt::MatchExactly).front()->setSelected(true);
+    }
+    static bool ShowsALine(const QWidget& form) {
+        const QImage image = Find<QWidget>(&form, "PicMC")->grab().toImage();
+        for (int y = 0; y < image.height(); ++y) {
+            if (image.pixelColor(image.width() / 2, y) == QColor(Qt::black)) return true;
+        }
+        return false;
+    }
+};
+
+TEST_F(frmViewMCTest, WalksTheFoldersShowsADrawingAndHandsItsPathBack) {
+    frmViewMC form;
+    form.show();
+    auto* folders = Find<QListWidget>(&form, "Dir1");
+    auto* files = Find<QListWidget>(&form, "File1");
+    EXPECT_EQ(Texts(folders), QStringList({QStringLiteral(".."), QStringLiteral("推拉")}));
+    EXPECT_EQ(Texts(files), QStringList());
+    Press(form, "OKButton");
+    EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|无选取图形文件")));
+
+    folders->setFocus();
+    folders->setCurrentRow(1);
+    QTest::keyClick(folders, Qt::Key_Return);
+    EXPECT_EQ(Texts(files).size(), 3);
+    Select(files, QStringLiteral("说明.txt"));
+    EXPECT_FALSE(ShowsALine(form));
+    Press(form, "OKButton");
+    EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|无效的图型文件")));
+
+    Select(files, QStringLiteral("窗.mc"));
+    EXPECT_TRUE(ShowsALine(form));
+    Select(files, QStringLiteral("坏.MC"));
+    EXPECT_FALSE(ShowsALine(form));
+    EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("|图形文件第 2 行的“x”不是数字。")));
+    Select(files, QStringLiteral("窗.mc"));
+    Press(form, "OKButton");
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(form.ResultPath(), InFolder("图/推拉/窗.mc"));
+}
+
+TEST_F(frmViewMCTest, ADriveLeadsToItsFolderAndCancelHandsNothingBack) {
+    frmViewMC form;
+    auto* drive = Find<QComboBox>(&form, "Drive1");
+    const int start = drive->findText(QStringLiteral("程序文件夹"));
+    drive->setCurrentIndex(start);
+    Q_EMIT drive->activated(start);
+    EXPECT_TRUE(Texts(Find<QListWidget>(&form, "File1")).contains(QStringLiteral("cl.mdb")));
+    Press(form, "CancelButton");
+    EXPECT_EQ(form.ResultPath(), QString());
+}
+
+}  // namespace kalvane::test
