@@ -173,10 +173,15 @@ TEST_F(MainScreenTest, EntriesAndButtonsOpenTheirScreens) {
         ASSERT_EQ(children.size(), 1) << command;
         EXPECT_EQ(children[0]->widget()->objectName(), QStringLiteral("frmMCGCGL"));
     }
-    for (const char* command : {"mnuYouhua", "x5"}) {
-        ModalScript().On("frmYHMain", [](QDialog&) {}).Run([&] { Trigger(frame, command); });
+    const char* const modal[][2] = {
+        {"mnuYouhua", "frmYHMain"},         {"x5", "frmYHMain"},
+        {"mnuDatabaseManage", "frmTools"},  {"x6", "frmTools"},
+        {"mnuPath", "frmSetting"},          {"mnuUserMng", "frmUserMng"},
+        {"mnuMdifyPwd", "frmUserChangPwd"}, {"mnuAbout", "frmAbort"},
+    };
+    for (const auto& [command, screen] : modal) {
+        ModalScript().On(screen, [](QDialog&) {}).Run([&] { Trigger(frame, command); });
     }
-    ModalScript().On("frmAbort", [](QDialog&) {}).Run([&] { Trigger(frame, "mnuAbout"); });
     QString help;
     ModalScript()
         .On("frmHelp", [&](QDialog& s) { help = Find<QPlainTextEdit>(&s, "Text1")->toPlainText(); })

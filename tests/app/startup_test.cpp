@@ -1,0 +1,102 @@
+#include "app/startup.h"
+
+#include "app/run_marker.h"
+#include "platform/error.h"
+#include "platform/files.h"
+#include "store/dated_copies.h"
+#include "support/main_store.h"
+
+namespace kalvane::test {
+
+class StartupTest : public MainStoreTest {
+  protected:
+    void SetUp() override {
+        CreateStore(folder_ / kTemplateStoreName, StoreKind::Main);
+        Insert({"图 (编号) values(7)"});
+        store_.reset();
+        state_.folder = folder_.Path();
+    }
+    void Start() {
+        state_.mainConnection.reset();
+        notice_.shown.clear();
+        OpenMainStore(state_, notice_);
+    }
+    std::string Drawings() { return test::Rows(state_.Main(), "Select 编号 from 图"); }
+
+    /// Overwrites the last page: the store still opens.
+    void Damage() {
+        const std::string bytes = ReadFile(file_);
+        WriteFileAtomically(file_, bytes.substr(0, bytes.size() - 4096) + std::string(4096, 'x'));
+    }
+
+    AppState state_;
+};
+
+TEST_F(StartupTest, KeepsOneCopyADay) {
+    Start();
+    Start();
+    EXPECT_EQ(CopiesOf(file_).size(), 1U);
+    EXPECT_TRUE(notice_.shown.empty());
+}
+
+TEST_F(StartupTest, ADamagedStoreIsReplacedAfterAYesAndNeverLost) {
+    Start();
+    state_.Main().Execute("Insert into 图 (编号) values(8)");
+    const std::filesystem::path copy = KeepCopy(file_);
+    Damage();
+    const std::string damaged = ReadFile(file_);
+    Start();
+    EXPECT_TRUE(notice_.shown.empty()) << "only an unclean end makes it look";
+
+    state_.checkStores = true;
+    Start();  // answered with no
+    ASSERT_EQ(notice_.shown.size(), 1U);
+    EXPECT_TRUE(notice_.shown[0].starts_with("出错！|‘材料’数据库打开出错！\n")) << notice_.shown[0];
+    EXPECT_NE(notice_.shown[0].find(TimeOfCopy(copy)), std::string::npos) << notice_.shown[0];
+    EXPECT_THROW(state_.Main(), StoreError);
+    EXPECT_EQ(ReadFile(file_), damaged);
+
+    notice_.answer = true;
+    WriteFileAtomically(KeepCopy(folder_ / kTemplateStoreName), "");  // no copy of this store
+    Start();
+    EXPECT_EQ(notice_.shown.size(), 1U);
+    EXPECT_EQ(Drawings(), "7\n8");
+    std::string kept;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_ / "副本")) {
+        if (entry.path().filename().string().starts_with("cl-损坏-")) kept = ReadFile(entry.path());
+    }
+    EXPECT_EQ(kept, damaged);
+}
+
+TEST_F(StartupTest, OfTheCopiesTheNewestSoundOneIsOffered) {
+    const std::filesystem::path sound = KeepCopy(file_);
+    WriteFileAtomically(KeepCopy(file_), "a letter");
+    WriteFileAtomically(file_, "a letter");
+    // What an old crash left to undo would be played into the copy.
+    WriteFileAtomically(folder_ / "cl.mdb-journal", std::string(600, 'x'));
+    notice_.answer = true;
+    Start();
+    EXPECT_NE(notice_.shown.at(0).find(TimeOfCopy(sound)), std::string::npos) << notice_.shown[0];
+    EXPECT_EQ(Drawings(), "7");
+
+    std::filesystem::remove_all(folder_ / "副本");
+    WriteFileAtomically(file_, "a letter");
+    Start();
+    EXPECT_NE(notice_.shown.at(0).find("没有可用的副本"), std::string::npos);
+    EXPECT_EQ(ReadFile(file_), "a letter");
+}
+
+TEST(RunMarker, StandsAfterAnUncleanEndOnly) {
+    const TempFolder folder;
+    {
+        RunMarker second(folder.Path());  // ends before it begins, as a second program does
+        RunMarker run(folder.Path());
+        EXPECT_FALSE(run.Stands());
+        run.Set();
+        EXPECT_TRUE(second.Stands());
+    }
+    EXPECT_FALSE(RunMarker(folder.Path()).Stands());
+    RunMarker(folder / "missing").Set();  // told by what fails next
+}
+
+}  // namespace kalvane::test
