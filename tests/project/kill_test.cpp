@@ -1,5 +1,6 @@
 // A program that is killed while it adds windows: everything it reported as saved is there.
 
+#include <poll.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -16,6 +17,7 @@ namespace kalvane::test {
 using KillTest = MainStoreTest;
 
 constexpr int kMostMicroseconds = 30'000;  // of a round
+constexpr int kPatienceMilliseconds = 10'000;
 
 /// Adds windows for ever and writes the number of each that was saved.
 [[noreturn]] void AddWindows(const std::filesystem::path& file, int pipe) {
@@ -51,6 +53,9 @@ TEST_F(KillTest, WhatWasReportedAsSavedIsThere) {
         const pid_t child = fork();
         if (child == 0) AddWindows(file_, pipes[1]);
         close(pipes[1]);
+        // On a busy machine the child may take its time to begin.
+        pollfd begun{pipes[0], POLLIN, 0};
+        if (round % 2 == 0) poll(&begun, 1, kPatienceMilliseconds);
         usleep(moment(dice));
         kill(child, SIGKILL);
         reported += ReadAll(pipes[0]);

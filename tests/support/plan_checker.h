@@ -17,7 +17,8 @@ struct PlanCheck {
 
 /// Proves a plan of one material, by its texts alone: every piece demanded is cut, none else, and no bar
 /// holds more than its length. The one exception is the linear optimiser's rule for small pieces: when an
-/// even sample of `nodes` of the pieces left is shorter than the bar, all of them stand on one last row.
+/// even sample of `nodes` of the pieces left is shorter than the bar, all of them stand on one last row, with
+/// the rest of the sample.
 struct PlanChecker {
     int stock;
     int allowance;  ///< of the bar per piece, beyond its length
@@ -48,8 +49,9 @@ struct PlanChecker {
             check.bars += bars;
             if (used + std::stoi(row.rest) == stock && std::stoi(row.rest) >= 0) continue;
             const bool isLast = &row == &plan.back();
-            if (isLast && bars == 1 && used > stock && SampleOf(left) + std::stoi(row.rest) == stock) {
-                ++check.overfilled;
+            const int sample = SampleOf(left);
+            if (isLast && bars == 1 && sample > 0 && sample + std::stoi(row.rest) == stock) {
+                if (used > stock) ++check.overfilled;
             } else {
                 fault("bar of " + std::to_string(used) + " mm with rest " + row.rest);
             }
