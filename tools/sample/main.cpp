@@ -2,6 +2,7 @@
 #include <QtWidgets>
 #include <functional>
 #include <iostream>
+#include <utility>
 
 #include "app/app_state.h"
 #include "app/screens/MDIMain.h"
@@ -80,7 +81,10 @@ void WhenShown(const QString& name, const std::function<void(QWidget*)>& action)
     timer->start();
 }
 
-/// Nothing on this road asks or warns; a box that comes up all the same must not wait for an answer.
+/// Where the preview saves its PDF.
+QString pdfFile;
+
+/// Nothing else on this road asks or warns; a box that comes up all the same must not wait for an answer.
 class NoDialogs : public Dialogs {
   public:
     void Message(QWidget*, const QString& text, const QString&, NoticeIcon) override { Stop(text); }
@@ -96,8 +100,8 @@ class NoDialogs : public Dialogs {
         return {};
     }
     QString SaveFileName(QWidget*, const QString& purpose, const QString&, const QString&, bool) override {
-        Stop(purpose);
-        return {};
+        if (pdfFile.isEmpty()) Stop(purpose);
+        return std::exchange(pdfFile, {});
     }
 
   private:
@@ -157,6 +161,17 @@ void ShowNewWindow(QWidget* windows) {
     Press(windows, "CmdAdd");
 }
 
+/// Presses a print command and saves what the preview shows.
+void SavePdf(QWidget* screen, const char* command, const std::string& name) {
+    WhenShown("frmPreview", [name](QWidget* preview) {
+        pdfFile = ToQt((out / (name + ".pdf")).string());
+        Press(preview, "CmdPdf");
+        TakePicture(preview, "preview-" + ToQt(name));
+        preview->close();
+    });
+    Press(screen, command);
+}
+
 /// The wizard from its second step to the plan of the first scheme.
 void RunWizard(QWidget* windows) {
     WhenShown("frmCreate02", [](QWidget* step2) {
@@ -165,6 +180,12 @@ void RunWizard(QWidget* windows) {
             TakePicture(step3, "frmCreate03");
             WhenShown("frmResult", [](QWidget* result) {
                 TakePicture(result, "frmResult");
+                Control<QTabWidget>(result, "Tab1")->setCurrentIndex(2);
+                TakePicture(result, "frmResult-bars");
+                SavePdf(result, "cmdPrint", "plan-table");
+                SavePdf(result, "cmdPrint1", "plan-totals");
+                SavePdf(result, "CmdPrintCut", "plan-bars");
+                SavePdf(result, "CmdLabels", "plan-labels");
                 Press(result, "CmdExit");
             });
             Press(step3, "CmdNext");
@@ -175,6 +196,52 @@ void RunWizard(QWidget* windows) {
         step2->close();
     });
     Press(windows, "cmdYH");
+}
+
+/// Opens a screen by its entry of the main screen, takes its picture, and closes it after `work`.
+void ShowModal(MDIMain& frame, const char* entry, const QString& name,
+               const std::function<void(QWidget*)>& work = {}) {
+    WhenShown(name, [=](QWidget* screen) {
+        if (work) work(screen);
+        TakePicture(screen, name);
+        screen->close();
+    });
+    frame.findChild<QAction*>(QLatin1String(entry))->trigger();
+}
+
+/// The drawing desk with a drawing of the library.
+void ShowDesk(MDIMain& frame) {
+    frame.findChild<QAction*>("mnuDrawPicture")->trigger();
+    QWidget* desk = Shown("FrmDraw");
+    WhenShown("frmOpenPicture", [](QWidget* library) {
+        auto* drawings = Control<ReportList>(library, "lvw");
+        drawings->SelectRow(drawings->RowCount() / 2);
+        TakePicture(library, "frmOpenPicture");
+        Press(library, "OKButton");
+    });
+    Press(desk, "CmdOpenEx");
+    Press(desk, "CmdDim");
+    TakePicture(desk, "FrmDraw");
+    desk->close();
+}
+
+void ShowManualList(MDIMain& frame) {
+    WhenShown("frmYHMain", [](QWidget* module) {
+        WhenShown("frmHandup", [](QWidget* screen) {
+            Control<QLineEdit>(screen, "TxtName")->setText("60框");
+            const char* const rows[][2] = {{"2000", "30"}, {"1500", "44"}, {"820", "65"}, {"655", "40"}};
+            for (const auto& [length, count] : rows) {
+                Control<QLineEdit>(screen, "TxtCD")->setText(length);
+                Control<QLineEdit>(screen, "TxtSL")->setText(count);
+                Press(screen, "CmdAdd");
+            }
+            TakePicture(screen, "frmHandup");
+            screen->close();
+        });
+        module->findChild<QAction*>("Toolbar1(4)")->trigger();
+        module->close();
+    });
+    frame.findChild<QAction*>("mnuYouhua")->trigger();
 }
 
 void SavePlan(const std::string& name) {
@@ -211,6 +278,7 @@ void Run() {
     App().optimise.CKK = 5;
     App().optimise.YHBL = 0.98F;
 
+    ShowDesk(frame);
     QWidget* windows = OpenSample(frame);
     ShowNewWindow(windows);
     RunWizard(windows);
@@ -219,6 +287,17 @@ void Run() {
     RunOptimisation(App().Main(), App().optimise, 1, ListMaterials(App().Main()), notice, {});
     SavePlan("plan-scheme-2");
     SaveWindowPictures();
+    ShowManualList(frame);
+    ShowModal(frame, "mnuDatabaseManage", "frmTools", [](QWidget* tools) {
+        WhenShown("frmSaveFile", [](QWidget* screen) {
+            Control<QLineEdit>(screen, "TxtFileName")->setText("2026年11月");
+            TakePicture(screen, "frmSaveFile");
+            screen->close();
+        });
+        Press(tools, "CmdBackup");
+    });
+    ShowModal(frame, "mnuPath", "frmSetting");
+    ShowModal(frame, "mnuUserMng", "frmUserMng");
 }
 
 }  // namespace
