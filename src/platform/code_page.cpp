@@ -65,7 +65,7 @@ std::string ToGbk(std::string_view utf8) {
     const std::size_t used = converter.Convert(utf8, result);
     if (used < utf8.size()) {
         throw CodePageError("文件不能保存字符“" + std::string(FirstCharacter(utf8.substr(used))) +
-                        "”，请改用其他文字。");
+                            "”，请改用其他文字。");
     }
     return result;
 }
