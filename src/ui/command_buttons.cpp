@@ -42,6 +42,16 @@ void LayOutAboveButtons(QWidget* screen, QWidget* body, std::initializer_list<QP
     rows->addLayout(ButtonRow(buttons, beside));
 }
 
+void LayOutEntry(QWidget* screen, QLayout* fields, QPushButton* ok, QPushButton* cancel) {
+    ok->setDefault(true);
+    auto* rows = new QVBoxLayout(screen);
+    rows->setContentsMargins(20, 20, 20, 16);
+    rows->setSpacing(18);
+    rows->addLayout(fields);
+    rows->addLayout(ButtonRow({ok, cancel}));
+    rows->setSizeConstraint(QLayout::SetFixedSize);
+}
+
 void LayOutBesideButtons(QWidget* screen, QWidget* body,
                          std::initializer_list<std::initializer_list<QPushButton*>> groups,
                          QPushButton* exit) {

@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 class QHBoxLayout;
+class QLayout;
 class QPushButton;
 class QWidget;
 
@@ -25,6 +26,9 @@ QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons, QWidget* bes
 /// Lays out a screen as a body with a ButtonRow below.
 void LayOutAboveButtons(QWidget* screen, QWidget* body, std::initializer_list<QPushButton*> buttons,
                         QWidget* beside = nullptr);
+
+/// Lays out a small screen of one size: fields, and the two buttons that end it, of which Enter presses `ok`.
+void LayOutEntry(QWidget* screen, QLayout* fields, QPushButton* ok, QPushButton* cancel);
 
 /// Lays out a screen as a body with a column of buttons at its right: one group below the other, and `exit`
 /// at the bottom.

@@ -6,7 +6,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QVBoxLayout>
 
 #include "app/company_settings.h"
 #include "ui/command_buttons.h"
@@ -56,14 +55,8 @@ frmSetting::frmSetting(QWidget* parent)
     txtCkPath_ = AddPath(*fields, "txtCkPath", "cmdView2", QStringLiteral("仓库数据："));
 
     QPushButton* ok = MakeButton("cmdOK", QStringLiteral("确定"), this);
-    ok->setDefault(true);
     QPushButton* cancel = MakeButton("cmdCancel", QStringLiteral("取消"), this);
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(20, 20, 20, 16);
-    rows->setSpacing(18);
-    rows->addLayout(fields);
-    rows->addLayout(ButtonRow({ok, cancel}));
-    rows->setSizeConstraint(QLayout::SetFixedSize);
+    LayOutEntry(this, fields, ok, cancel);
 
     OnSignal(ok, &QPushButton::clicked, this, [this] { Store(); });
     OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });

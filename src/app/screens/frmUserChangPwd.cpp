@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "app/app_state.h"
 #include "app/enc_decrypt.h"
@@ -46,15 +45,8 @@ frmUserChangPwd::frmUserChangPwd(QWidget* parent)
         txtPwd_[static_cast<std::size_t>(i)] = box;
     }
     QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定"), this);
-    ok->setDefault(true);
     QPushButton* cancel = MakeButton("CancelButton", QStringLiteral("取消"), this);
-
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(20, 20, 20, 16);
-    rows->setSpacing(18);
-    rows->addLayout(fields);
-    rows->addLayout(ButtonRow({ok, cancel}));
-    rows->setSizeConstraint(QLayout::SetFixedSize);
+    LayOutEntry(this, fields, ok, cancel);
 
     OnSignal(ok, &QPushButton::clicked, this, [this] { Change(); });
     OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });

@@ -3,7 +3,6 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "ui/command_buttons.h"
 #include "ui/guard.h"
@@ -23,14 +22,8 @@ frmInput::frmInput(QWidget* parent)
     auto* fields = new QFormLayout;
     fields->addRow(QStringLiteral("输入文字："), text1_);
     QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定"), this);
-    ok->setDefault(true);
     QPushButton* cancel = MakeButton("CancelButton", QStringLiteral("取消"), this);
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(20, 20, 20, 16);
-    rows->setSpacing(18);
-    rows->addLayout(fields);
-    rows->addLayout(ButtonRow({ok, cancel}));
-    rows->setSizeConstraint(QLayout::SetFixedSize);
+    LayOutEntry(this, fields, ok, cancel);
 
     OnSignal(ok, &QPushButton::clicked, this, [this] { Confirm(); });
     OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });

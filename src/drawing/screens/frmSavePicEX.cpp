@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "app/app_state.h"
 #include "drawing/drawing_library.h"
@@ -41,14 +40,8 @@ frmSavePicEX::frmSavePicEX(QWidget* parent)
     fields->addRow(label2, number_);
 
     QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定"), this);
-    ok->setDefault(true);
     QPushButton* cancel = MakeButton("CancelButton", QStringLiteral("取消"), this);
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(20, 20, 20, 16);
-    rows->setSpacing(18);
-    rows->addLayout(fields);
-    rows->addLayout(ButtonRow({ok, cancel}));
-    rows->setSizeConstraint(QLayout::SetFixedSize);
+    LayOutEntry(this, fields, ok, cancel);
 
     OnEnter(name_, [this] { Confirm(); });
     OnEnter(number_, [this] { Confirm(); });

@@ -3,7 +3,6 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "store/field_slots.h"
 #include "ui/command_buttons.h"
@@ -29,15 +28,8 @@ frmInputGC::frmInputGC(const QString& title, QWidget* parent)
         fields->addRow(captions[i], boxes_[i]);
     }
     QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定 &Y"), this);
-    ok->setDefault(true);
     QPushButton* cancel = MakeButton("CancelButton", QStringLiteral("取消 &C"), this);
-
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(20, 20, 20, 16);
-    rows->setSpacing(18);
-    rows->addLayout(fields);
-    rows->addLayout(ButtonRow({ok, cancel}));
-    rows->setSizeConstraint(QLayout::SetFixedSize);
+    LayOutEntry(this, fields, ok, cancel);
 
     for (std::size_t i = 0; i + 1 < boxes_.size(); ++i) EnterMovesTo(boxes_[i], boxes_[i + 1]);
     OnEnter(boxes_.back(), [this] { Confirm(); });
