@@ -37,7 +37,6 @@ TEST(DrawingGrid, ReadsTypedPoints) {
         {"@10", ""},
         {"X", ""},
         {"10<90", ""},
-        {"@", ""},
     };
     for (const auto& [text, expected] : cases) {
         const std::optional<Point> point = kGrid.TypedPoint(text, last);

@@ -30,7 +30,7 @@ class DxfImportTest : public testing::Test {
     }
     static std::string Lines(int count) {
         std::string text;
-        for (int i = 0; i < count; ++i) text += Entity("LINE", {{11, "1"}, {21, "2"}});
+        while (count-- > 0) text += Entity("LINE", {{11, "1"}, {21, "2"}});
         return Entities(text);
     }
 
@@ -44,22 +44,11 @@ TEST_F(DxfImportTest, TakesThreeKindsAndTellsWhatItPassedOver) {
     picture_.AddArc({});  // replaced with all else
     const std::string line =
         Entity("LINE", {{8, "0"}, {10, "1"}, {20, "2.5"}, {30, "0"}, {11, "-3"}, {21, "4e1"}});
-    const std::string box = Entity(
-        "LWPOLYLINE",
-        {{90, "4"}, {10, "1"}, {20, "2"}, {10, "3"}, {20, "4"}, {10, "5"}, {20, "6"}, {10, "7"}, {20, "8"}});
-    const std::string mark = Entity("DIMENSION", {{10, "5"},
-                                                  {20, "6"},
-                                                  {11, "7"},
-                                                  {21, "8"},
-                                                  {1, " B1 "},
-                                                  {13, "1"},
-                                                  {23, "2"},
-                                                  {14, "3"},
-                                                  {24, "4"},
-                                                  {1, "late"}});
-    const std::string others = Entity("CIRCLE", {{10, "9"}, {20, "9"}}) + Entity("TEXT", {{1, "h"}}) +
-                               Entity("CIRCLE", {}) + Entity("POLYLINE", {}) + Entity("VERTEX", {}) +
-                               Entity("SEQEND", {});
+    const std::string box = "0\nLWPOLYLINE\n90\n4\n10\n1\n20\n2\n10\n3\n20\n4\n10\n5\n20\n6\n10\n7\n20\n8\n";
+    const std::string mark =
+        "0\nDIMENSION\n10\n5\n20\n6\n11\n7\n21\n8\n1\n B1 \n13\n1\n23\n2\n14\n3\n24\n4\n1\nlate\n";
+    const std::string others =
+        "0\nCIRCLE\n10\n9\n20\n9\n0\nTEXT\n1\nh\n0\nCIRCLE\n0\nPOLYLINE\n0\nVERTEX\n0\nSEQEND\n";
     // Entities in a block stand before the section that counts, objects behind it.
     const DxfSummary summary = Import(line + Entities(line + box + mark + others) + Entity("DICTIONARY", {}));
     EXPECT_EQ(Describe(picture_), "Line 1,2.5 -3,40; Rec 1,2 5,6; Dim 1,2 3,4 5,6; String 7,8 B1");
@@ -68,25 +57,23 @@ TEST_F(DxfImportTest, TakesThreeKindsAndTellsWhatItPassedOver) {
 }
 
 TEST_F(DxfImportTest, ScannerRules) {
-    const std::string triangle =
-        Entity("LWPOLYLINE", {{10, "1"}, {20, "2"}, {10, "3"}, {20, "4"}, {10, "5"}, {20, "6"}});
+    const std::string triangle = "0\nLWPOLYLINE\n10\n1\n20\n2\n10\n3\n20\n4\n10\n5\n20\n6\n";
     const std::string line = Entity("LINE", {{10, "7"}, {20, "8"}, {11, "9"}, {21, "10"}});
     const struct {
         std::string text;
         const char* drawing;
-        const char* passedOver;  // behind the counts
+        const char* passedOver = "没有略过的图元";  // behind the counts
     } kCases[] = {
-        {line, "", "没有略过的图元"},  // no ENTITIES
-        {"ENTITIES\nLINE\n21\n4\n", "Line 0,0 0,4", "没有略过的图元"},
+        {line, ""},  // no ENTITIES
+        {"ENTITIES\nLINE\n21\n4\n", "Line 0,0 0,4"},
         // A line may open with the word as the name of a layer, and a comma ends a token.
-        {"ENTITIES\n8\nLINE\n10,1,20,2\n11,3\r21,4\n", "Line 1,2 3,4", "没有略过的图元"},
+        {"ENTITIES\n8\nLINE\n10,1,20,2\n11,3\r21,4\n", "Line 1,2 3,4"},
         {Entities(triangle + line + line), "Line 7,8 9,10; Rec 1,2 5,6", "略过 1 个图元：LINE 1"},
         {Entities(Entity("DIMENSION", {{14, "1"}, {24, "2"}, {13, "3"}, {1, "late"}})),
-         "Dim 0,0 1,2 0,0; String 0,0 ", "没有略过的图元"},
-        {Entities(Entity("DIMENSION", {{1, ""}, {24, "2"}})), "Dim 0,0 0,2 0,0; String 0,0 ",
-         "没有略过的图元"},
-        {Entities(line) + line + "  0\r\nLINE\r\n 10\r\n", "Line 7,8 9,10; Line 7,8 9,10",
-         "没有略过的图元"},  // the word counts to the end; the file ends within the third
+         "Dim 0,0 1,2 0,0; String 0,0 "},
+        {Entities(Entity("DIMENSION", {{1, ""}, {24, "2"}})), "Dim 0,0 0,2 0,0; String 0,0 "},
+        // The word counts to the end; the file ends within the third.
+        {Entities(line) + line + "  0\r\nLINE\r\n 10\r\n", "Line 7,8 9,10; Line 7,8 9,10"},
     };
     for (const auto& c : kCases) {
         const std::string prompt = DxfPrompt(Import(c.text));

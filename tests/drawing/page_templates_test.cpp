@@ -39,8 +39,10 @@ class PageTemplatesTest : public MainStoreTest {
         return pages;
     }
 
-    static bool Has(const std::vector<std::string>& page, const std::string& command) {
-        return std::find(page.begin(), page.end(), command) != page.end();
+    static void ExpectAll(const std::vector<std::string>& page, std::initializer_list<const char*> commands) {
+        for (const char* command : commands) {
+            EXPECT_NE(std::find(page.begin(), page.end(), command), page.end()) << command;
+        }
     }
     static bool HasText(const std::vector<std::string>& page, const std::string& text) {
         return std::any_of(page.begin(), page.end(), [&](const auto& c) { return c.ends_with(" " + text); });
@@ -61,70 +63,59 @@ TEST_F(PageTemplatesTest, TheSheetStandsInItsPlaces) {
     // Drawing 1, frame 4, head 6, table 24, verticals 4 + 8; 12 captions and values; 2 labels; 46 rows of
     // five less one, of which row 46 lies behind the count and is printed all the same; the maker.
     EXPECT_EQ(page.size(), 1U + 4 + 6 + 24 + 12 + 24 + 2 + (46 * 5 - 1) + 1);
-    const std::vector<std::string> start(page.begin(), page.begin() + 7);
-    EXPECT_EQ(start,
+    EXPECT_EQ(std::vector(page.begin(), page.begin() + 7),
               (std::vector<std::string>{"0,2958.5 5500,4917", "0,1000 11000,1000", "11000,1000 11000,14710",
                                         "11000,14710 0,14710", "0,14710 0,1000", "5500,1652.86 11000,1652.86",
                                         "5500,2305.72 11000,2305.72"}));
-    for (const char* command : {
-             "5500,4917.16 11000,4917.16",  // head rule 6: 6 x 652.86 + 1000
-             "0,5570 11000,5570",
-             "0,14709.97 11000,14709.97",  // table rule 23: 23 x 397.39 + 5570
-             "5500,1000 5500,14710",
-             "6520.29,1000 6520.29,5570",
-             "8250,2958.57 8250,5570",
-             "9270.29,2958.57 9270.29,5570",
-             "2080.12,5570 2080.12,14710",
-             "10432.29,5570 10432.29,14710",
-             "5600,1200 工程名称",
-             "6620,1200 值1",
-             "8350.29,3158.57 购件表号",
-             "9370.29,4464.14 值9",
-             "-920,5117.14 ",
-             "100,5117.14 值10",
-             "8350.29,5117.14 校    对",
-             "5500,4917 1500",
-             "550,1391.7 h",  // 550 x 1, 391.7 + 1000
-             "100,5668.69 1/1",
-             "4854.5,5668.69 1/5",  // 397.39 + 5271.3
-             "5600,5668.69 24/1",
-             "10532.29,14411.27 46/5",  // 23 x 397.39 + 5271.3
-             "500,500 制作单位：厂",
-         }) {
-        EXPECT_TRUE(Has(page, command)) << command;
-    }
+    ExpectAll(page, {
+                        "5500,4917.16 11000,4917.16",  // head rule 6: 6 x 652.86 + 1000
+                        "0,5570 11000,5570",
+                        "0,14709.97 11000,14709.97",  // table rule 23: 23 x 397.39 + 5570
+                        "5500,1000 5500,14710",
+                        "6520.29,1000 6520.29,5570",
+                        "8250,2958.57 8250,5570",
+                        "9270.29,2958.57 9270.29,5570",
+                        "2080.12,5570 2080.12,14710",
+                        "10432.29,5570 10432.29,14710",
+                        "5600,1200 工程名称",
+                        "6620,1200 值1",
+                        "8350.29,3158.57 购件表号",
+                        "9370.29,4464.14 值9",
+                        "-920,5117.14 ",
+                        "100,5117.14 值10",
+                        "8350.29,5117.14 校    对",
+                        "5500,4917 1500",
+                        "550,1391.7 h",  // 550 x 1, 391.7 + 1000
+                        "100,5668.69 1/1",
+                        "4854.5,5668.69 1/5",  // 397.39 + 5271.3
+                        "5600,5668.69 24/1",
+                        "10532.29,14411.27 46/5",  // 23 x 397.39 + 5271.3
+                    });
     EXPECT_FALSE(HasText(page, "B"));
     EXPECT_EQ(page.back(), "500,500 制作单位：厂");
 }
 
 TEST_F(PageTemplatesTest, TheTableGoesOn) {
-    const struct {
-        int rows;
-        std::size_t pages;
-    } kCases[] = {{46, 1}, {47, 2}, {112, 2}, {113, 3}};
-    for (const auto& c : kCases) {
-        SetRows(c.rows);
-        EXPECT_EQ(PrintSheet().size(), c.pages) << c.rows;
+    for (const auto& [rows, count] : {std::pair(46, 1U), {47, 2U}, {112, 2U}, {113, 3U}}) {
+        SetRows(rows);
+        EXPECT_EQ(PrintSheet().size(), count) << rows;
     }
     const auto pages = PrintSheet();  // of 113 rows
     const auto& second = pages[1];
     // 34 rules, eleven verticals, 66 rows of five.
     EXPECT_EQ(second.size(), 34U + 11 + 66 * 5);
-    for (const char* command : {
-             "0,1000 11000,1000", "0,14113.87 11000,14113.87",  // 33 x 397.39 + 1000
-             "0,1000 0,14113.87", "11000,1000 11000,14113.87", "100,1100 48/1",
-             "667.71,1497.39 49/2",                        // the second place: 1100 + 397.39
-             "100,13816.48 80/1",                          // place 33: 32 x 397.39 + 1100
-             "5600,1100 81/1", "10532.29,13816.48 113/5",  // places 34 and 66
-         }) {
-        EXPECT_TRUE(Has(second, command)) << command;
-    }
+    ExpectAll(second, {
+                          "0,1000 11000,1000", "0,14113.87 11000,14113.87",  // 33 x 397.39 + 1000
+                          "0,1000 0,14113.87", "11000,1000 11000,14113.87", "100,1100 48/1",
+                          "667.71,1497.39 49/2",                        // the second place: 1100 + 397.39
+                          "100,13816.48 80/1",                          // place 33: 32 x 397.39 + 1100
+                          "5600,1100 81/1", "10532.29,13816.48 113/5",  // places 34 and 66
+                      });
     for (const auto& page : pages) EXPECT_FALSE(HasText(page, "47/1"));
     EXPECT_EQ(pages[2].size(), 34U + 11 + 5);
-    EXPECT_TRUE(Has(pages[2], "100,1100 114/1"));
-
+    ExpectAll(pages[2], {"100,1100 114/1"});
     sheet_.table.SetCell(2, 48, "");
-    EXPECT_TRUE(Has(PrintSheet()[1], "667.71,1100 "));  // empty texts too
+    ExpectAll(PrintSheet()[1], {"667.71,1100 "});  // empty texts too
 }
 
 TEST_F(PageTemplatesTest, TheBareDrawingPage) {
@@ -148,8 +139,7 @@ TEST_F(PageTemplatesTest, PrintPictureTellsOfAnEmptyDrawing) {
     EXPECT_EQ(notice_.shown, std::vector<std::string>{"#Error|图形为空!"});
 
     picture_.AddLine({{1, 2}, {3, 4}});
-    picture_.PrintPicture(page);
-    picture_.PrintPicture(page);  // another document begins a page of its own
+    for (int i = 0; i < 2; ++i) picture_.PrintPicture(page);  // another document begins a page of its own
     ASSERT_EQ(page.Pages().size(), 2U);
     EXPECT_EQ(page.Pages()[0].size(), page.Pages()[1].size());
     EXPECT_EQ(CommandTexts(page.Pages()[1]).front(), "1,2 3,4");

@@ -3,54 +3,27 @@
 #include "app/screens/MDIMain.h"
 #include "drawing/drawing_library.h"
 #include "drawing/mc_file.h"
-#include "drawing/recorders.h"
-#include "drawing/screens/FrmDraw.h"
-#include "drawing/screens/drawing_canvas.h"
+#include "drawing/screens/draw_kit.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
-#include "support/screens/screen_kit.h"
 #include "ui/picture_box.h"
-#include "ui/report_list.h"
 
 namespace kalvane::test {
 
-class DrawingFlow : public ScreenTest {
+class DrawingFlow : public DrawScreenTest {
   protected:
-    void Open() {
-        screen_ = std::make_unique<FrmDraw>(nullptr);
-        screen_->show();
-        pic_ = Find<DrawingCanvas>(screen_.get(), "Pic");
+    void Draw(const char* tool, std::initializer_list<QPoint> cells) {
+        Press(tool);
+        for (const QPoint cell : cells) Click(cell);
     }
-    void TearDown() override {
-        screen_.reset();
-        ScreenTest::TearDown();
-    }
-
-    // Each of these is one action of the operator.
-    void Press(const char* button) {
-        ++actions_;
-        test::Press(*screen_, button);
-    }
-    void Click(int column, int row) {
-        ++actions_;
-        QTest::mouseClick(pic_, Qt::LeftButton, {}, At(column, row));
-    }
-    void ClickAndType(int column, int row, const char* text) {
-        ++actions_;
+    void Write(QPoint cell, const char* text) {
         ModalScript()
             .On("frmInput",
                 [text](QDialog& input) {
                     QTest::keyClicks(Find<QLineEdit>(&input, "Text1"), QLatin1String(text));
                     QTest::keyClick(Find<QLineEdit>(&input, "Text1"), Qt::Key_Return);
                 })
-            .Run([&] { Click(column, row); });
-    }
-
-    QPoint At(int column, int row) const {
-        return pic_
-            ->ToWidget({(static_cast<float>(column) + 0.5F) * 118.6875F,
-                        (static_cast<float>(row) + 0.5F) * 123.984375F})
-            .toPoint();
+            .Run([&] { Draw("CmdString", {cell}); });
     }
     void OpenRow(int row) {
         ModalScript()
@@ -59,43 +32,21 @@ class DrawingFlow : public ScreenTest {
                     Find<ReportList>(&open, "lvw")->SelectRow(row);
                     test::Press(open, "OKButton");
                 })
-            .Run([this] { test::Press(*screen_, "CmdOpenEx"); });
+            .Run([this] { Press("CmdOpenEx"); });
     }
-    const CPictire& Picture() const { return screen_->Desk().Picture(); }
-
-    std::unique_ptr<FrmDraw> screen_;
-    DrawingCanvas* pic_ = nullptr;
-    int actions_ = 0;
 };
 
 TEST_F(DrawingFlow, ATwoLeafSlidingWindowIsDrawnInUnderFortyActions) {
-    Open();
     const std::string number = NextDrawingNumber(App().Main());
-    for (const auto& [from, to] : {std::pair(QPoint(16, 12), QPoint(64, 52)),  // frame
-                                   std::pair(QPoint(18, 14), QPoint(41, 50)),  // left leaf
-                                   std::pair(QPoint(39, 14), QPoint(62, 50))}) {
-        Press("CmdRec");
-        Click(from.x(), from.y());
-        Click(to.x(), to.y());
-    }
-    Press("CmdDir");  // both leaves slide
-    Click(24, 32);
-    Click(34, 32);
-    Press("CmdDir");
-    Click(56, 32);
-    Click(46, 32);
-    Press("CmdDim");
-    Click(16, 12);
-    Click(64, 12);
-    Click(64, 8);
-    Press("CmdDim");
-    Click(16, 12);
-    Click(16, 52);
-    Click(12, 52);
-    Press("CmdString");
-    ClickAndType(40, 6, "B");
-    Press("CmdString");
-    ClickAndType(9, 32, "H");
+    Draw("CmdRec", {{16, 12}, {64, 52}});  // frame
+    Draw("CmdRec", {{18, 14}, {41, 50}});  // left leaf
+    Draw("CmdRec", {{39, 14}, {62, 50}});
+    Draw("CmdDir", {{24, 32}, {34, 32}});  // both leaves slide
+    Draw("CmdDir", {{56, 32}, {46, 32}});
+    Draw("CmdDim", {{16, 12}, {64, 12}, {64, 8}});
+    Draw("CmdDim", {{16, 12}, {16, 52}, {12, 52}});
+    Write({40, 6}, "B");
+    Write({9, 32}, "H");
     ModalScript()
         .On("frmSavePicEX",
             [this](QDialog& save) {
@@ -135,35 +86,32 @@ TEST_F(DrawingFlow, ATwoLeafSlidingWindowIsDrawnInUnderFortyActions) {
 }
 
 TEST_F(DrawingFlow, EveryDrawingOfTheLibraryComesThroughTheDeskUnchanged) {
-    Open();
     const std::vector<DrawingEntry> drawings = ListDrawings(App().Main());
     ASSERT_GE(drawings.size(), 24U);
     dialogs_.answers = std::deque<bool>(drawings.size(), true);
     for (int row = 0; row < static_cast<int>(drawings.size()); ++row) {
-        const DrawingEntry& drawing = drawings[static_cast<std::size_t>(row)];
-        SCOPED_TRACE(drawing.name);
-        test::Press(*screen_, "CmdRefresh");
+        SCOPED_TRACE(drawings[static_cast<std::size_t>(row)].name);
+        Press("CmdRefresh");
         OpenRow(row);
-        const std::string text = McText(Picture());
-        const std::string items = Describe(Picture());
+        const CPictire& picture = screen_->Desk().Picture();
+        const std::string text = McText(picture);
+        const std::string items = Items();
         EXPECT_FALSE(items.empty());
-        test::Press(*screen_, "CmdRec");  // edited and taken back
-        Click(1, 1);
-        Click(9, 9);
-        EXPECT_NE(Describe(Picture()), items);
-        test::Press(*screen_, "CmdUndo");
-        test::Press(*screen_, "CmdSaveEx");
-        test::Press(*screen_, "CmdRefresh");
+        Draw("CmdRec", {{1, 1}, {9, 9}});  // edited and taken back
+        EXPECT_NE(Items(), items);
+        Press("CmdUndo");
+        Press("CmdSaveEx");
+        Press("CmdRefresh");
         OpenRow(row);
-        EXPECT_EQ(Describe(Picture()), items);
+        EXPECT_EQ(Items(), items);
 
         const QString file = InFolder("drawing.MC");
         dialogs_.files = {file, file};
-        test::Press(*screen_, "CmdSave");
+        Press("CmdSave");
         EXPECT_EQ(FromGbk(ReadFile(folder_ / "drawing.MC")), text);
-        if (!Picture().Arcs().Empty()) continue;  // not in the file, and kept by the desk
-        test::Press(*screen_, "CmdOpen");
-        EXPECT_EQ(Describe(Picture()), items);
+        if (!picture.Arcs().Empty()) continue;  // not in the file, and kept by the desk
+        Press("CmdOpen");
+        EXPECT_EQ(Items(), items);
     }
     EXPECT_TRUE(std::none_of(dialogs_.shown.begin(), dialogs_.shown.end(), [](const QString& text) {
         return !text.startsWith(QStringLiteral("保存文件|"));
@@ -172,6 +120,8 @@ TEST_F(DrawingFlow, EveryDrawingOfTheLibraryComesThroughTheDeskUnchanged) {
 }
 
 TEST_F(DrawingFlow, TheMainScreenOpensOneDeskAndEndsWithItsDrawingKept) {
+    EXPECT_FALSE(Find<QPushButton>(screen_.get(), "CmdRecover")->isVisible());
+    screen_.reset();
     {
         MDIMain frame;
         frame.Load();
@@ -179,13 +129,17 @@ TEST_F(DrawingFlow, TheMainScreenOpensOneDeskAndEndsWithItsDrawingKept) {
         for (int i = 0; i < 2; ++i) Find<QAction>(&frame, "mnuDrawPicture")->trigger();
         const QList<FrmDraw*> desks = frame.findChildren<FrmDraw*>();
         ASSERT_EQ(desks.size(), 1);
-        auto* command = Find<QLineEdit>(desks[0], "TxtCommand");
-        QTest::keyClicks(command, QStringLiteral("r 0,0 16,16 "));
+        QTest::keyClicks(Find<QLineEdit>(desks[0], "TxtCommand"), QStringLiteral("r 0,0 16,16 "));
         frame.close();
     }
-    Open();
-    test::Press(*screen_, "CmdRecover");
-    EXPECT_EQ(Describe(Picture()), "Rec 0,0 1899,1983.75");
+    Reopen();
+    auto* recover = Find<QPushButton>(screen_.get(), "CmdRecover");
+    EXPECT_TRUE(recover->isVisible());
+    EXPECT_EQ(Items(), "");
+    recover->click();
+    EXPECT_EQ(Items(), "Rec 0,0 1899,1983.75");
+    EXPECT_FALSE(recover->isVisible());
+    EXPECT_TRUE(dialogs_.shown.isEmpty());
 }
 
 }  // namespace kalvane::test

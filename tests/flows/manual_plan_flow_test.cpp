@@ -9,7 +9,6 @@
 #include "platform/error.h"
 #include "platform/files.h"
 #include "support/screens/screen_kit.h"
-#include "ui/report_list.h"
 
 namespace kalvane::test {
 
@@ -22,30 +21,10 @@ class ManualPlanFlow : public ScreenTest {
         App().optimise.CKK = 5;
     }
 
-    static std::string Table(const QWidget& screen, const char* name) {
-        const auto* list = Find<ReportList>(&screen, name);
-        QStringList rows;
-        for (int row = 0; row < list->RowCount(); ++row) rows << list->Row(row).join(QLatin1Char('|'));
-        return rows.join(QLatin1Char('\n')).toStdString();
-    }
     static void Type(QWidget& screen, const char* keys) {
         for (const char* key = keys; *key != '\0'; ++key) {
-            QWidget* target = screen.focusWidget();
-            ASSERT_NE(target, nullptr);
-            if (*key == '\n') {
-                QTest::keyClick(target, Qt::Key_Return);
-            } else {
-                QTest::keyClick(target, *key);
-            }
+            QTest::keyClick(screen.focusWidget(), *key == '\n' ? '\r' : *key);
         }
-    }
-    /// Fills the list with lengths that leave a search no exact fit for long.
-    static void FillLongDemand(QWidget& screen) {
-        QString table;
-        for (int i = 0; i < 100; ++i) table += QStringLiteral("%1\t9\n").arg(411 + 7 * i);
-        QGuiApplication::clipboard()->setText(table);
-        Press(screen, "CmdPaste");
-        SetText(screen, "TxtName", "M");
     }
 };
 
@@ -99,18 +78,16 @@ TEST_F(ManualPlanFlow, ATypedListIsKeptInAFileAndChecked) {
 }
 
 TEST_F(ManualPlanFlow, FromTheListToBarsLabelsAndTables) {
-    struct Case {
-        std::int16_t scheme;
-        const char* cuts;
-        const char* ratio;
-    };
     // Of 6000: with 20 more on each piece, 2020 + 2020 + 1520 leaves 440, 2020 + 1520 * 2 + 820 leaves 120,
     // 1520 + 820 * 4 leaves 1200; the need is 3 * 2.02 + 4 * 1.52 + 5 * 0.82 = 16.24 m, 2.7 bars.
-    const Case cases[] = {
+    const struct {
+        std::int16_t scheme;
+        const char *cuts, *ratio;
+    } cases[] = {
         {0, "1500+800*4|1|0.8|1200\n|2000*2+1500|1|0.9266667|440\n|2000+1500*2+800|1|0.98|120", "0.90222"},
         {1, "800*3+1500+2000|1|100|0\n|800+1500*2+2000|1|98|120\n|800+1500+2000|1|72.67|1640", "90.223"},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         App().YHScheme = c.scheme;
         frmHandup screen(nullptr);
         screen.show();
@@ -133,10 +110,7 @@ TEST_F(ManualPlanFlow, FromTheListToBarsLabelsAndTables) {
                         for (int x = 0; x < bars.width(); x += 3) colours << bars.pixel(x, y);
                     }
                     // Three lengths, the loss behind a piece.
-                    for (const QColor colour : {QColor(158, 202, 245), QColor(255, 233, 160),
-                                                QColor(149, 211, 143), QColor(90, 90, 90)}) {
-                        EXPECT_TRUE(colours.contains(colour.rgb())) << colour.name().toStdString();
-                    }
+                    EXPECT_TRUE(colours.contains({0xFF9ECAF5, 0xFFFFE9A0, 0xFF95D38F, 0xFF5A5A5A}));
                     Press(result, "CmdPrintCut");
                     Press(result, "CmdLabels");
                 })
@@ -144,14 +118,9 @@ TEST_F(ManualPlanFlow, FromTheListToBarsLabelsAndTables) {
             .On("frmPreview", [](QDialog& preview) { Press(preview, "CmdPdf"); })
             .Run([&] { Press(screen, "OKButton"); });
         for (const char* file : {"bars.pdf", "labels.pdf"}) {
-            EXPECT_EQ(ReadFile(folder_ / file).substr(0, 5), "%PDF-") << file;
+            EXPECT_TRUE(ReadFile(folder_ / file).starts_with("%PDF-")) << file;
         }
-        const QString times = Find<QStatusBar>(&screen, "StatusBar")->currentMessage();
-        EXPECT_TRUE(QRegularExpression(
-                        QStringLiteral("^起始时间：\\d\\d:\\d\\d:\\d\\d 结束时间：\\d\\d:\\d\\d:\\d\\d$"))
-                        .match(times)
-                        .hasMatch())
-            << times.toStdString();
+        EXPECT_TRUE(Find<QStatusBar>(&screen, "StatusBar")->currentMessage().startsWith("起始时间："));
         EXPECT_FALSE(Find<QLabel>(&screen, "Label4")->isVisible());
     }
     EXPECT_TRUE(dialogs_.shown.isEmpty());
@@ -168,7 +137,12 @@ TEST_F(ManualPlanFlow, ALongRunLeavesTheScreenAliveAndIsCancelled) {
     for (const char* by : {"CmdCancelRun", "closing"}) {
         frmHandup screen(nullptr);
         screen.show();
-        FillLongDemand(screen);
+        // Lengths that leave a search no exact fit for long.
+        QString table;
+        for (int i = 0; i < 100; ++i) table += QStringLiteral("%1\t9\n").arg(411 + 7 * i);
+        QGuiApplication::clipboard()->setText(table);
+        Press(screen, "CmdPaste");
+        SetText(screen, "TxtName", "M");
 
         double longestGap = 0;
         double last = 0;

@@ -5,7 +5,6 @@
 #include "platform/files.h"
 #include "project/screens/frmOpenGC.h"
 #include "support/screens/screen_kit.h"
-#include "ui/report_list.h"
 
 namespace kalvane::test {
 
@@ -27,12 +26,6 @@ class PlanFlow : public ScreenTest {
         }
     }
 
-    static std::string Table(const QWidget& screen, const char* name) {
-        const auto* list = Find<ReportList>(&screen, name);
-        QStringList rows;
-        for (int row = 0; row < list->RowCount(); ++row) rows << list->Row(row).join(QLatin1Char('|'));
-        return rows.join(QLatin1Char('\n')).toStdString();
-    }
     static void Choose(const QWidget& screen, const QString& text) {
         auto* offered = Find<ReportList>(&screen, "LvwR");
         for (int row = 0; row < offered->RowCount(); ++row) {
@@ -46,19 +39,16 @@ class PlanFlow : public ScreenTest {
 };
 
 TEST_F(PlanFlow, FromTheModuleToThePlan) {
-    struct Case {
-        bool second;
-        const char* scheme;
-        const char* cuts;
-        const char* totals;
-    };
     // A bar holds 4 x 1140 + 940 = 5500 of 6000, the next one 3 x 940 = 2820. The mean ratio of the two is
     // taken over floats of 7 digits. Rows come in the order of their texts.
-    const Case cases[] = {
+    const struct {
+        bool second;
+        const char *scheme, *cuts, *totals;
+    } cases[] = {
         {false, "优化方案一", "PK60-08|1120*4+920|1|0.9166667|500\n|920*3|1|0.47|3180", "PK60-08|2|0.69333"},
         {true, "优化方案二", "PK60-08|920*3|1|47|3180\n|920+1120*4|1|91.67|500", "PK60-08|2|69.33"},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.scheme);
         ModalScript()
             .On("frmYHMain",
@@ -112,7 +102,9 @@ TEST_F(PlanFlow, FromAnOpenProjectToTheOutputs) {
     App().YHScheme = 1;  // as the module may have left it
     frmOpenGC::Open({"2", "", "阳光花园", "", ""});
     frmOpenGC* opened = frmOpenGC::OfProject("2");
-    dialogs_.files = {QString(), InFolder("plan.txt"), InFolder("plan.xlsx")};
+    dialogs_.files = {QString(), InFolder("plan.txt"), InFolder("plan.xlsx"), InFolder("cuts.pdf"),
+                      InFolder("totals.pdf")};
+    const auto savePdf = [](QDialog& preview) { Press(preview, "CmdPdf"); };
     ModalScript()
         .On("frmCreate02",
             [](QDialog& step) {
@@ -134,14 +126,19 @@ TEST_F(PlanFlow, FromAnOpenProjectToTheOutputs) {
                 Press(result, "CmdSave");
                 App().outputFileType = 0;
                 Press(result, "CmdSave");
+                Press(result, "cmdPrint");
+                Press(result, "cmdPrint1");
             })
+        .On("frmPreview", savePdf)
+        .On("frmPreview", savePdf)
         .Run([&] { Press(*opened, "cmdYH"); });
-    EXPECT_EQ(dialogs_.filters, QStringList({QStringLiteral("*.txt|*.txt"), QStringLiteral("*.txt|*.txt"),
-                                             QStringLiteral("Excel 工作簿|*.xlsx")}));
+    EXPECT_EQ(dialogs_.filters.mid(1, 2),
+              QStringList({QStringLiteral("*.txt|*.txt"), QStringLiteral("Excel 工作簿|*.xlsx")}));
     const std::string written = ReadFile(folder_ / "plan.txt");
     EXPECT_NE(written.find("\tPK60-08\t1120*4+920\t1\t0.9166667\t500"), std::string::npos) << written;
     EXPECT_NE(written.find("工程名称：阳光花园"), std::string::npos);
     EXPECT_EQ(ReadFile(folder_ / "plan.xlsx").substr(0, 4), "PK\x03\x04");  // a zip, as .xlsx is
+    for (const char* pdf : {"cuts.pdf", "totals.pdf"}) EXPECT_GT(ReadFile(folder_ / pdf).size(), 5000U);
     // No desktop here to open it with: the operator is told, and the file stays.
     EXPECT_EQ(dialogs_.shown,
               QStringList(QStringLiteral("提示|确认您的系统中是否安装了Excel软件或版本不兼容！")));

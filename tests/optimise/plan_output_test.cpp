@@ -1,6 +1,7 @@
 #include "optimise/demand_file.h"
 #include "optimise/demand_paste.h"
 #include "optimise/plan.h"
+#include "optimise/plan_report.h"
 #include "optimise/plan_text.h"
 #include "optimise/plan_workbook.h"
 #include "platform/error.h"
@@ -25,13 +26,7 @@ class PlanTest : public MainStoreTest {
 };
 
 TEST_F(PlanTest, SumsLikeBarsNamesAMaterialOnceAndIsWrittenAsText) {
-    const std::vector<CutRow> cuts = {{"A", "1500", "1", "0.25", "4500"},
-                                      {"", "2000*3", "2", "1", "0"},
-                                      {"B", "800*4", "1", "0.5", "2800"}};
-    EXPECT_EQ(plan_.cuts, cuts);
-    // (1 + 0.25 + 1) / 3
-    const std::vector<TotalRow> totals = {{"A", "3", "0.75"}, {"B", "1", "0.5"}};
-    EXPECT_EQ(plan_.totals, totals);
+    // A's mean is (1 + 0.25 + 1) / 3.
     SavePlanText(plan_, folder_ / "plan.txt");
     EXPECT_EQ(ReadFile(folder_ / "plan.txt"),
               "\xEF\xBB\xBF"
@@ -54,86 +49,56 @@ TEST_F(PlanTest, SumsLikeBarsNamesAMaterialOnceAndIsWrittenAsText) {
     EXPECT_THROW(SavePlanText({}, folder_ / "missing" / "plan.txt"), FileError);
 }
 
-/// Names of the cells of a range.
-std::set<std::string> Range(char firstColumn, char lastColumn, int firstRow, int lastRow) {
-    std::set<std::string> names;
-    for (int row = firstRow; row <= lastRow; ++row) {
-        for (char column = firstColumn; column <= lastColumn; ++column)
-            names.insert(column + std::to_string(row));
-    }
-    return names;
-}
-
 TEST_F(PlanTest, FillsTheSpreadsheet) {
     PlanWorkbook(plan_).Save(folder_ / "plan.xlsx");
     const XlsxReader reader(folder_ / "plan.xlsx");
     const XlsxSheet cuts = reader.Sheet(1);
-    const std::map<std::string, std::string> cutCells = {{"A1", "材料优化切割表"},
-                                                         {"B1", ""},
-                                                         {"C1", ""},
-                                                         {"D1", ""},
-                                                         {"E1", ""},
-                                                         {"A3", "   工程名称："},
-                                                         {"B3", "阳光花园"},
-                                                         {"A4", "材料名称"},
-                                                         {"B4", "                 切割规格"},
-                                                         {"C4", "数量"},
-                                                         {"D4", "优化比率"},
-                                                         {"E4", "余料长度"},
-                                                         {"A5", "A"},
-                                                         {"B5", "1500"},
-                                                         {"C5", "#1"},
-                                                         {"D5", "#0.25"},
-                                                         {"E5", "#4500"},
-                                                         {"A6", ""},
-                                                         {"B6", "2000*3"},
-                                                         {"C6", "#2"},
-                                                         {"D6", "#1"},
-                                                         {"E6", "#0"},
-                                                         {"A7", "B"},
-                                                         {"B7", "800*4"},
-                                                         {"C7", "#1"},
-                                                         {"D7", "#0.5"},
-                                                         {"E7", "#2800"},
-                                                         {"A9", "日期"},
-                                                         {"B9", "2024-05-01"}};
-    EXPECT_EQ(cuts.cells, cutCells);
-    EXPECT_EQ(cuts.bordered, Range('A', 'E', 4, 7));
-    EXPECT_EQ(cuts.centred, Range('A', 'E', 1, 1));
-    EXPECT_EQ(cuts.merges, std::vector<std::string>{"A1:E1"});
+    EXPECT_EQ(cuts.cells,
+              "A1=材料优化切割表|B1=|C1=|D1=|E1=\n"
+              "A3=   工程名称：|B3=阳光花园\n"
+              "A4=材料名称|B4=                 切割规格|C4=数量|D4=优化比率|E4=余料长度\n"
+              "A5=A|B5=1500|C5=#1|D5=#0.25|E5=#4500\n"
+              "A6=|B6=2000*3|C6=#2|D6=#1|E6=#0\n"
+              "A7=B|B7=800*4|C7=#1|D7=#0.5|E7=#2800\n"
+              "A9=日期|B9=2024-05-01\n");
+    EXPECT_EQ(cuts.bordered, "A4 B4 C4 D4 E4 A5 B5 C5 D5 E5 A6 B6 C6 D6 E6 A7 B7 C7 D7 E7 ");
+    EXPECT_EQ(cuts.centred, "A1 B1 C1 D1 E1 ");
+    EXPECT_EQ(cuts.merges, "A1:E1 ");
     // The file adds the 5 pixels of a cell's margin, of 7 to a character.
     const std::map<int, double> widths = {{2, 45}, {3, 4}, {4, 9}, {5, 9}};
     ASSERT_EQ(cuts.widths.size(), widths.size());
     for (const auto& [column, width] : widths) EXPECT_NEAR(cuts.widths.at(column), width + 5.0 / 7, 0.01);
 
     const XlsxSheet totals = reader.Sheet(2);
-    const std::map<std::string, std::string> totalCells = {{"A1", "材料优化统计表"},
-                                                           {"B1", ""},
-                                                           {"C1", ""},
-                                                           {"D1", ""},
-                                                           {"A3", "   工程名称："},
-                                                           {"B3", "阳光花园"},
-                                                           {"A4", "   材料名称"},
-                                                           {"B4", "     数量"},
-                                                           {"C4", "   优化比率"},
-                                                           {"D4", "   采购数量"},
-                                                           {"A5", "A"},
-                                                           {"B5", "#3"},
-                                                           {"C5", "#0.75"},
-                                                           {"D5", ""},
-                                                           {"A6", "B"},
-                                                           {"B6", "#1"},
-                                                           {"C6", "#0.5"},
-                                                           {"D6", ""},
-                                                           {"A7", "总经理签字"},
-                                                           {"C7", "主管签字"},
-                                                           {"A9", "日期"},
-                                                           {"C9", "2024-05-01"}};
-    EXPECT_EQ(totals.cells, totalCells);
-    EXPECT_EQ(totals.bordered, Range('A', 'D', 4, 6));
-    EXPECT_EQ(totals.merges, std::vector<std::string>{"A1:D1"});
+    EXPECT_EQ(totals.cells,
+              "A1=材料优化统计表|B1=|C1=|D1=\n"
+              "A3=   工程名称：|B3=阳光花园\n"
+              "A4=   材料名称|B4=     数量|C4=   优化比率|D4=   采购数量\n"
+              "A5=A|B5=#3|C5=#0.75|D5=\n"
+              "A6=B|B6=#1|C6=#0.5|D6=\n"
+              "A7=总经理签字|C7=主管签字\n"
+              "A9=日期|C9=2024-05-01\n");
+    EXPECT_EQ(totals.bordered, "A4 B4 C4 D4 A5 B5 C5 D5 A6 B6 C6 D6 ");
+    EXPECT_EQ(totals.merges, "A1:D1 ");
     EXPECT_TRUE(totals.widths.empty());
     EXPECT_THROW(PlanWorkbook(plan_).Save(folder_ / "missing" / "plan.xlsx"), FileError);
+}
+
+TEST_F(PlanTest, IsPrintedWithAColumnForThePen) {
+    const auto text = [](const Report& report) {
+        std::string all = report.title + "/" + report.heading[0][0] + "/";
+        for (const ReportColumn& column : report.columns) all += column.head + "|";
+        for (const auto& row : report.rows) {
+            all += "/";
+            for (const std::string& cell : row) all += cell + "|";
+        }
+        return all;
+    };
+    EXPECT_EQ(text(dsYHB(*store_, "阳光花园")),
+              "材料优化表/工程名称：阳光花园/材料名称|切割规格|数量|优化比率|剩余料长|实际需求量|/"
+              "A|1500|1|0.25|4500||/|2000*3|2|1|0||/B|800*4|1|0.5|2800||");
+    EXPECT_EQ(text(dsYHBT(*store_, "")),
+              "材料优化统计表/工程名名称：/材料名称|数  量|总体优化率|实际需求量|/A|3|0.75||/B|1|0.5||");
 }
 
 std::string TextOf(const std::vector<ManualRow>& rows) {

@@ -66,35 +66,22 @@ TEST_F(ReportTest, ATableStandsRuledUnderItsHeads) {
     report.closing = {{"签字"}};
     // Title: 16 points in 400 with 120 on each side. Heading: 10 points in 250 with 60 on each side, to 1010.
     // The foot of 450 begins 9550 down; its line is 225 high.
-    EXPECT_EQ(Print(report, 8000, 10000)[0],
-              (std::vector<std::string>{"3840,120 表",  // 320 wide in the middle
-                                        "80,700 甲",
-                                        "4080,700 乙",            //
-                                        "fill 0,1010 8000,1335",  // heads, bold but no wider
-                                        "0,1010 8000,1010",       // above the table only
-                                        "0,1010 0,1335",
-                                        "0,1335 2000,1335",  //
-                                        "2000,1010 2000,1335",
-                                        "2000,1335 8000,1335",  //
-                                        "8000,1010 8000,1335",  //
-                                        "910,1060 序",
-                                        "4910,1060 名",  // centred
-                                        "0,1335 0,1660",
-                                        "0,1660 2000,1660",  //
-                                        "2000,1335 2000,1660",
-                                        "2000,1660 8000,1660",  //
-                                        "8000,1335 8000,1660",  //
-                                        "1830,1385 1",
-                                        "2080,1385 料",  // the number at the right
-                                        "0,1660 0,1985",
-                                        "0,1985 2000,1985",  //
-                                        "2000,1660 2000,1985",
-                                        "2000,1985 8000,1985",  //
-                                        "8000,1660 8000,1985",
-                                        "2080,1710 计",  //
-                                        "80,2245 签字",  // 200 below
-                                        "80,9775 表",
-                                        "6480,9775 第 1 页，共 1 页"}));  // 16 places of 90
+    std::string all;
+    const auto pages = Print(report, 8000, 10000);
+    for (const std::string& command : pages[0]) all += command + "; ";
+    EXPECT_EQ(all,
+              "3840,120 表; 80,700 甲; 4080,700 乙; "  // the title is 320 wide in the middle
+              // Heads, bold but no wider, with a line above them only; their texts are centred.
+              "fill 0,1010 8000,1335; 0,1010 8000,1010; "
+              "0,1010 0,1335; 0,1335 2000,1335; 2000,1010 2000,1335; 2000,1335 8000,1335; "
+              "8000,1010 8000,1335; 910,1060 序; 4910,1060 名; "
+              // A row, the number at the right.
+              "0,1335 0,1660; 0,1660 2000,1660; 2000,1335 2000,1660; 2000,1660 8000,1660; "
+              "8000,1335 8000,1660; 1830,1385 1; 2080,1385 料; "
+              "0,1660 0,1985; 0,1985 2000,1985; 2000,1660 2000,1985; 2000,1985 8000,1985; "
+              "8000,1660 8000,1985; 2080,1710 计; "
+              // The closing 200 below, and the foot's 16 places of 90.
+              "80,2245 签字; 80,9775 表; 6480,9775 第 1 页，共 1 页; ");
 }
 
 TEST_F(ReportTest, GroupHeadsSpanTheirColumns) {

@@ -54,32 +54,13 @@ std::set<std::string> NamesIn(const std::string& formula) {
     return names;
 }
 
-/// A window type's labels with the sample window's values times a scale.
-class Sizes {
-  public:
-    void Add(const std::string& name, double value) {
-        values_[UpperCase(name)] = value;
-        labels_.names.push_back(name);
-        labels_.values.push_back(std::to_string(value));
-        labels_.px.push_back(0);
-        labels_.py.push_back(0);
-        ++labels_.last;
-    }
-    void Sort() { SortLabelsByLength(labels_.names, labels_.values, labels_.px, labels_.py, labels_.last); }
-
-    double operator[](const std::string& name) const { return values_.at(name); }
-    std::size_t Count() const { return values_.size(); }
-
-    /// The value of a formula, which must use no name but the labels.
-    double Value(const std::string& formula) const {
-        for (const std::string& name : NamesIn(formula)) EXPECT_TRUE(values_.contains(name)) << formula;
-        return EvalWithLabels(formula, labels_);
-    }
-
-  private:
-    LabelSet labels_;
-    std::map<std::string, double> values_;  // by names in capitals
-};
+/// The value of a formula, which must use no name but the labels.
+double Value(const std::string& formula, const LabelSet& labels) {
+    std::set<std::string> known;
+    for (const std::string& name : labels.names) known.insert(UpperCase(name));
+    for (const std::string& name : NamesIn(formula)) EXPECT_TRUE(known.contains(name)) << formula;
+    return EvalWithLabels(formula, labels);
+}
 
 TEST(StarterLibrary, EveryRowNamesOneMaterialOfARichCatalogue) {
     const std::vector<Row> series = Select("编号 from 型材系列");
@@ -111,13 +92,12 @@ TEST(StarterLibrary, EveryWindowTypeClosesAndIsGlazedWithinItsOpening) {
         ASSERT_EQ(sample.size(), 1U) << type[1];
         for (const double scale : {1.0, 0.85}) {
             SCOPED_TRACE(type[1] + " x " + std::to_string(scale));
-            Sizes sizes;
-            for (const Row& label : Select("MC,schar from 标注 where Mcnum=" + sample[0][0])) {
-                sizes.Add(label[0], std::stod(label[1]) * scale);
-            }
-            sizes.Sort();
-            ASSERT_EQ(sizes.Count(), drawn.size()) << "a name twice, or a label without a value";
-            const double opening = sizes["B"] * sizes["H"];
+            LabelSet labels = LoadPlainLabels(Store(), sample[0][0]);
+            for (std::string& value : labels.values) value = std::to_string(std::stod(value) * scale);
+            ASSERT_EQ(std::set(labels.names.begin(), labels.names.end()).size(), drawn.size());
+            const double width = Value("B", labels);
+            const double height = Value("H", labels);
+            const double opening = width * height;
 
             double frames = 0;
             double joints = 0;
@@ -125,8 +105,8 @@ TEST(StarterLibrary, EveryWindowTypeClosesAndIsGlazedWithinItsOpening) {
             std::vector<Row> cut = Select(bars + "窗型材" + rowsOf);
             for (Row& steel : Select(bars + "窗型钢" + rowsOf)) cut.push_back(std::move(steel));
             for (const Row& row : cut) {
-                const double length = sizes.Value(row[2]);
-                const double count = sizes.Value(row[1]);
+                const double length = Value(row[2], labels);
+                const double count = Value(row[1], labels);
                 EXPECT_TRUE(length > 50 && length < kBarLength) << row[0] << " " << length;
                 EXPECT_GE(count, 1) << row[0];
                 if (row[0].ends_with("框B") || row[0].ends_with("框H")) frames += count * length;
@@ -134,41 +114,21 @@ TEST(StarterLibrary, EveryWindowTypeClosesAndIsGlazedWithinItsOpening) {
             }
             // Frames go once round the opening and on both sides of a joint. Welding adds 6 a piece, a post
             // takes 60 off each of its two frames.
-            EXPECT_NEAR(frames, 2 * (sizes["B"] + sizes["H"]) + 2 * joints, 180);
+            EXPECT_NEAR(frames, 2 * (width + height) + 2 * joints, 180);
 
             double area = 0;
             for (const Row& row : Select("名称,数量,长公式,宽公式 from 窗板材" + rowsOf)) {
-                const double length = sizes.Value(row[2]);
-                const double width = sizes.Value(row[3]);
-                EXPECT_TRUE(length > 100 && width > 100) << row[0] << " " << length << " " << width;
-                area += std::stod(row[1]) * length * width;
+                const double x = Value(row[2], labels);
+                const double y = Value(row[3], labels);
+                EXPECT_TRUE(x > 100 && y > 100) << row[0] << " " << x << " " << y;
+                area += std::stod(row[1]) * x * y;
             }
             EXPECT_TRUE(area > 0.35 * opening && area < 0.9 * opening) << area / opening;
             for (const Row& row : Select("名称,数量 from 窗配件" + rowsOf)) {
-                EXPECT_GE(std::nearbyint(sizes.Value(row[1])), 1) << row[0];
+                EXPECT_GE(std::nearbyint(Value(row[1], labels)), 1) << row[0];
             }
         }
     }
-}
-
-/// Worked by hand: a two-leaf slider of 1500 x 1400 has a clear width of 1400; with 8 on the frame at each
-/// side and 72 at the interlock the two leaves span 1488, so a leaf is 744 wide and its bar 6 longer. Its
-/// glass is 744 - 2*72 visible and 15 more at each edge. The leaf's height is 1300 + 16.
-TEST(StarterLibrary, SlidingLeafFollowsItsInterlock) {
-    Sizes sizes;
-    sizes.Add("B", 1500);
-    sizes.Add("H", 1400);
-    const std::vector<Row> type = Select("编号 from 门窗 where 名称='两扇推拉窗'");
-    ASSERT_EQ(type.size(), 1U);
-    const auto value = [&](const std::string& columnFromTable, const std::string& condition) {
-        const std::vector<Row> rows =
-            Select(columnFromTable + " where 窗号=" + type[0][0] + " and " + condition);
-        return rows.size() == 1 ? sizes.Value(rows[0][0]) : 0;
-    };
-    EXPECT_EQ(value("计算公式 from 窗型材", "名称='扇B'"), 750);
-    EXPECT_EQ(value("计算公式 from 窗型材", "名称='扇H'"), 1322);
-    EXPECT_EQ(value("长公式 from 窗板材", "数量=2"), 630);
-    EXPECT_EQ(value("宽公式 from 窗板材", "数量=2"), 1202);
 }
 
 double Span(const std::string& from, const std::string& to) {

@@ -6,19 +6,17 @@
 #include <filesystem>
 #include <map>
 #include <pugixml.hpp>
-#include <set>
 #include <string>
-#include <vector>
 
 namespace kalvane::test {
 
-/// A sheet as a spreadsheet program finds it in the file.
+/// A sheet as a spreadsheet program finds it in the file. Cells go by their names, row by row.
 struct XlsxSheet {
-    std::map<std::string, std::string> cells;  ///< by name, such as "A1"; a number as "#0.5", empty cells too
-    std::set<std::string> bordered;            ///< cells with thin lines on all four sides
-    std::set<std::string> centred;
-    std::vector<std::string> merges;  ///< such as "A1:E1"
-    std::map<int, double> widths;     ///< by column from 1; a program's own cell margin is part of it
+    std::string cells;             ///< "A1=text|B1=#0.5" with # before a number, a line for each row
+    std::string bordered;          ///< cells with thin lines on all four sides: "A1 B1 "
+    std::string centred;           ///< likewise
+    std::string merges;            ///< such as "A1:E1 "
+    std::map<int, double> widths;  ///< by column from 1; a program's own cell margin is part of it
 };
 
 /// Reads an .xlsx file with an archive and an XML library, by the format's own rules: none of our code and
@@ -41,31 +39,32 @@ class XlsxReader {
         const pugi::xml_document part = Part("xl/worksheets/sheet" + std::to_string(number) + ".xml");
         const pugi::xml_node root = part.child("worksheet");
         XlsxSheet sheet;
+        const pugi::xml_node style = styles.child("styleSheet");
         for (const pugi::xml_node& row : root.child("sheetData")) {
             for (const pugi::xml_node& cell : row) {
                 const std::string name = cell.attribute("r").value();
                 const std::string value = cell.child_value("v");
-                const bool isText = std::string(cell.attribute("t").value()) == "s";
-                sheet.cells[name] = isText          ? TextAt(strings, std::stoi(value))
-                                    : value.empty() ? ""
-                                                    : "#" + value;
-                const pugi::xml_node format =
-                    Nth(styles.child("styleSheet").child("cellXfs"), cell.attribute("s").as_int());
+                sheet.cells += name + "=";
+                if (std::string(cell.attribute("t").value()) == "s") {
+                    sheet.cells += Nth(strings.child("sst"), std::stoi(value)).child_value("t");
+                } else if (!value.empty()) {
+                    sheet.cells += "#" + value;
+                }
+                sheet.cells += cell == row.last_child() ? "\n" : "|";
+                const pugi::xml_node format = Nth(style.child("cellXfs"), cell.attribute("s").as_int());
                 const pugi::xml_node border =
-                    Nth(styles.child("styleSheet").child("borders"), format.attribute("borderId").as_int());
-                bool isBordered = true;
+                    Nth(style.child("borders"), format.attribute("borderId").as_int());
+                int thin = 0;
                 for (const char* side : {"left", "right", "top", "bottom"}) {
-                    isBordered =
-                        isBordered && std::string(border.child(side).attribute("style").value()) == "thin";
+                    thin += std::string(border.child(side).attribute("style").value()) == "thin" ? 1 : 0;
                 }
-                if (isBordered) sheet.bordered.insert(name);
-                if (std::string(format.child("alignment").attribute("horizontal").value()) == "center") {
-                    sheet.centred.insert(name);
-                }
+                if (thin == 4) sheet.bordered += name + " ";
+                const std::string place = format.child("alignment").attribute("horizontal").value();
+                if (place == "center") sheet.centred += name + " ";
             }
         }
         for (const pugi::xml_node& merge : root.child("mergeCells")) {
-            sheet.merges.push_back(merge.attribute("ref").value());
+            sheet.merges += std::string(merge.attribute("ref").value()) + " ";
         }
         for (const pugi::xml_node& columns : root.child("cols")) {
             for (int i = columns.attribute("min").as_int(); i <= columns.attribute("max").as_int(); ++i) {
@@ -94,9 +93,6 @@ class XlsxReader {
         pugi::xml_node child = parent.first_child();
         for (; index > 0; --index) child = child.next_sibling();
         return child;
-    }
-    static std::string TextAt(const pugi::xml_document& strings, int index) {
-        return Nth(strings.child("sst"), index).child_value("t");
     }
 
     zip_t* archive_ = nullptr;

@@ -17,6 +17,7 @@
 #include "support/screens/scripted_dialogs.h"
 #include "support/store_rows.h"
 #include "support/temp_folder.h"
+#include "ui/report_list.h"
 
 namespace kalvane::test {
 
@@ -39,6 +40,14 @@ inline QString TextIn(const QWidget& screen, const char* box) {
 }
 inline void SetText(const QWidget& screen, const char* box, const char* text) {
     Find<QLineEdit>(&screen, box)->setText(QString::fromUtf8(text));
+}
+
+/// The rows of a list, as Rows gives those of a store.
+inline std::string Table(const QWidget& screen, const char* name) {
+    const auto* list = Find<ReportList>(&screen, name);
+    QStringList rows;
+    for (int row = 0; row < list->RowCount(); ++row) rows << list->Row(row).join(QLatin1Char('|'));
+    return rows.join(QLatin1Char('\n')).toStdString();
 }
 
 /// What the operator does at modal screens: one step for each screen that comes up, told by its name, in
