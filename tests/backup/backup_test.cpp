@@ -66,7 +66,9 @@ TEST_F(BackupTest, ComesBackRowForRowAndNothingElseChanges) {
 TEST_F(BackupTest, AFailedOneLeavesTheGoodOneAndNoLitter) {
     Backup();
     const std::string good = ReadFile(backup_);
-    const auto files = [this] { return std::distance(std::filesystem::directory_iterator(folder_.Path()), {}); };
+    const auto files = [this] {
+        return std::distance(std::filesystem::directory_iterator(folder_.Path()), {});
+    };
     const auto before = files();
     RunRaw(template_, "DROP TABLE \"型材\"");
     EXPECT_THROW(Backup(), StoreError);

@@ -82,8 +82,9 @@ TEST_F(CutDiagramTest, PaintsToScaleAndNamesTheMaterialOnEveryPage) {
         }
     }
     // After A's last two bars there is room for one row more, but not for B's name and a bar.
-    for (const char* part : {"切割图|工程名称：阳光花园|第 1 页，共 3 页|A    5 根|", "第 3 根|", "切割图|",
-                             "第 2 页，共 3 页|A    5 根|第 4 根|", "第 5 根|", "第 3 页，共 3 页|B    1 根|"}) {
+    for (const char* part :
+         {"切割图|工程名称：阳光花园|第 1 页，共 3 页|A    5 根|", "第 3 根|", "切割图|",
+          "第 2 页，共 3 页|A    5 根|第 4 根|", "第 5 根|", "第 3 页，共 3 页|B    1 根|"}) {
         const std::size_t at = heads.find(part);
         ASSERT_NE(at, std::string::npos) << part;
         heads.erase(0, at);

@@ -71,7 +71,8 @@ TEST_F(DialogsTest, SavingAsksBeforeItOverwrites) {
     WriteFileAtomically(folder_ / "plans/old.DDD", "old");
     const QString filter = QStringLiteral("需求文件|*.DDD");
     const auto save = [&](bool asks) {
-        return UseDialogs().SaveFileName(nullptr, QStringLiteral("plan"), filter, QStringLiteral("DDD"), asks);
+        return UseDialogs().SaveFileName(nullptr, QStringLiteral("plan"), filter, QStringLiteral("DDD"),
+                                         asks);
     };
     ModalScript()
         .On("QFileDialog", Choose(InFolder("plans/old")))
@@ -81,7 +82,6 @@ TEST_F(DialogsTest, SavingAsksBeforeItOverwrites) {
     ModalScript().On("QFileDialog", Choose(InFolder("plans/old.DDD"))).Run([&] {
         EXPECT_EQ(save(false), InFolder("plans/old.DDD"));
     });
-
 }
 
 }  // namespace kalvane::test
