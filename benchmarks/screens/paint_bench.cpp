@@ -35,7 +35,7 @@ void PaintFullDrawing(benchmark::State& state) {
 }
 BENCHMARK(PaintFullDrawing)->Unit(benchmark::kMillisecond);
 
-/// The same strokes and texts, known beforehand, as one call each.
+/// The same strokes and texts, known beforehand, as one call each and none of them smoothed.
 void PaintSamePrimitivesBare(benchmark::State& state) {
     bench::SilentNotice notice;
     QImage image = WhiteImage();
@@ -53,7 +53,6 @@ void PaintSamePrimitivesBare(benchmark::State& state) {
     }
     for (auto _ : state) {
         QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(Qt::black, 1, Qt::SolidLine, Qt::SquareCap));
         for (const QLineF& line : lines) painter.drawLine(line);
         for (const auto& [at, text] : texts) painter.drawText(at, text);

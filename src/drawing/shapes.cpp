@@ -118,7 +118,12 @@ void DrawArc(PaintTarget& target, Point p1, Point p2, Point p3) {
         return Point{static_cast<float>(radius * std::cos(angle) + cx),
                      static_cast<float>(cy - radius * std::sin(angle))};
     };
-    for (int i = 1; i <= kChords; ++i) DrawStroke(target, pointAt(i - 1), pointAt(i));
+    Point from = pointAt(0);
+    for (int i = 1; i <= kChords; ++i) {
+        const Point to = pointAt(i);
+        DrawStroke(target, from, to);
+        from = to;
+    }
 }
 
 void Draw_String(PaintTarget& target, float x, float y, std::string_view text) {

@@ -89,7 +89,7 @@ void PainterTarget::DrawOnPixels(QPointF from, QPointF to) {
 }
 
 void PainterTarget::DrawText(float x, float y, std::string_view text) {
-    painter_.setFont(font_);
+    if (painter_.font() != font_) painter_.setFont(font_);
     UsePen(textColour_);
     painter_.drawText(QPointF(x * unitsPerTwip_, y * unitsPerTwip_ + metrics_.ascent()), ToQt(text));
 }
