@@ -149,6 +149,14 @@ TEST_F(BackupTest, ARestoreThatAKillCutOffIsOfferedToBeUndone) {
         OfferToUndoCutRestore(store, notice_);  // asked once
         EXPECT_EQ(notice_.shown.size(), putBack ? 2U : 1U);
     }
+    // Cut off behind its last table it has replaced them all, and can still be undone.
+    Connection store(file_, StoreKind::Main);
+    const std::filesystem::path copy = KeepCopy(file_);
+    FillMain(store, 1);
+    WriteFileAtomically(folder_ / ".kalvane.restore", copy.string());
+    notice_.answer = true;
+    OfferToUndoCutRestore(store, notice_);
+    EXPECT_EQ(ContentOf(store), before);
 }
 
 }  // namespace kalvane::test
