@@ -27,6 +27,9 @@ std::int16_t ReadInt16(const SettingsStore& settings, std::string_view key, std:
 constexpr const char* kErrorTitle = "出错！";
 
 std::unique_ptr<Connection> OpenSound(const std::filesystem::path& file, StoreKind kind, bool check) {
+    if (!std::filesystem::exists(file) && !CopiesOf(file).empty()) {
+        throw StoreDamage("文件“" + file.filename().string() + "”不见了。");
+    }
     auto connection = std::make_unique<Connection>(file, kind);
     if (check) connection->CheckIntegrity();
     return connection;
@@ -45,8 +48,8 @@ std::filesystem::path SoundCopy(const std::filesystem::path& file, StoreKind kin
     return {};
 }
 
-/// Opens a store. A damaged one is told with the way back: the newest copy, put in its place after a yes. It
-/// is never replaced without one, and never lost. Null when the operator wants no copy.
+/// Opens a store. A damaged or missing one is told with the way back: the newest copy, put in its place after
+/// a yes. It is never replaced without one, and never lost. Null when the operator wants no copy.
 std::unique_ptr<Connection> OpenOrReplace(const std::filesystem::path& file, StoreKind kind, bool check,
                                           const std::string& complaint, Notice& notice) {
     try {
@@ -54,12 +57,15 @@ std::unique_ptr<Connection> OpenOrReplace(const std::filesystem::path& file, Sto
     } catch (const StoreDamage& damage) {
         const std::filesystem::path copy = SoundCopy(file, kind);
         if (copy.empty()) {
-            throw StoreDamage(damage.what() + std::string("\n没有可用的副本，请用备份恢复这个文件。"));
+            throw StoreDamage(damage.what() + std::string("\n没有可用的副本。请把这个文件和文件夹“副本”移到"
+                                                          "别处，重新启动程序，再用备份恢复。"));
         }
-        const std::string question = complaint + damage.what() + "\n\n最近的副本是 " + TimeOfCopy(copy) +
-                                     " 的。要用它代替吗？损坏的文件会另存在文件夹“副本”里。";
+        const std::string question =
+            complaint + damage.what() + "\n\n最近的副本是 " + TimeOfCopy(copy) + " 的。要用它代替吗？" +
+            (std::filesystem::exists(file) ? "损坏的文件会另存在文件夹“副本”里。"
+                                           : "要从头开始，请选“否”，把文件夹“副本”移到别处后重新启动。");
         if (!notice.Confirm(question, kErrorTitle)) return nullptr;
-        ReplaceDamaged(file, copy);
+        ReplaceByCopy(file, copy);
         MigrateStore(file, kind);
         return OpenSound(file, kind, true);
     }

@@ -17,7 +17,7 @@ void ReadOutputSettings(AppState& state, std::int16_t windCheckDefault);
 void ReadOptimiserOptions(AppState& state, Notice& notice);
 
 // Opening a store brings it to the present layout, checks it after an unclean end, and keeps the copy of the
-// day. A damaged one is told, and may be replaced by its newest dated copy.
+// day. A damaged or a missing one is told, and its newest dated copy may take its place.
 
 /// Opens the user store for the screen that asks; null after a failure, which is told.
 std::unique_ptr<Connection> OpenUserStore(const AppState& state, Notice& notice);

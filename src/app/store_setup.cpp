@@ -10,6 +10,7 @@
 #include "app/user_accounts.h"
 #include "platform/files.h"
 #include "store/connection.h"
+#include "store/dated_copies.h"
 #include "store/starter_files.h"
 #include "store/store_files.h"
 
@@ -24,7 +25,7 @@ void FillUsers(Connection& users) {
 /// Makes a store under a passing name, fills it, and gives it its own name only then.
 void CreateWhole(const std::filesystem::path& file, StoreKind kind,
                  const std::function<void(Connection&)>& fill) {
-    if (std::filesystem::exists(file)) return;
+    if (std::filesystem::exists(file) || !CopiesOf(file).empty()) return;
     // Two programs may find the folder empty at the same moment.
     std::filesystem::path unfinished = file;
     unfinished += ".new" + std::to_string(::getpid());

@@ -38,8 +38,13 @@ class LockedStore {
     explicit LockedStore(const std::filesystem::path& folder) : lock_(folder) {
         if (!lock_.Acquire()) throw StoreError("另一个程序正在使用这个文件夹，请先关闭它。");
         CreateMissingStores(folder);
-        MigrateStore(folder / kMainStoreName, StoreKind::Main);
-        connection_.emplace(folder / kMainStoreName, StoreKind::Main);
+        const std::filesystem::path file = folder / kMainStoreName;
+        if (!std::filesystem::exists(file)) {
+            throw StoreError("数据库“" + file.filename().string() +
+                             "”不见了，但有它的副本。请启动桌面程序，用副本恢复。");
+        }
+        MigrateStore(file, StoreKind::Main);
+        connection_.emplace(file, StoreKind::Main);
     }
     Connection& Get() { return *connection_; }
 

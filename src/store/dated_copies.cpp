@@ -112,10 +112,10 @@ std::string TimeOfCopy(const Path& copy) {
     return text;
 }
 
-Path ReplaceDamaged(const Path& store, const Path& copy) {
+void ReplaceByCopy(const Path& store, const Path& copy) {
     const Path aside = FreeName(store, "损坏-");
-    KeepAside(store, aside);
-    // What the engine wrote down to undo belongs to the damaged file, never to the copy.
+    if (std::filesystem::exists(store)) KeepAside(store, aside);
+    // What the engine wrote down to undo belongs to the file that stood here, never to the copy.
     Path journal = store;
     journal += "-journal";
     if (std::filesystem::exists(journal)) {
@@ -126,7 +126,6 @@ Path ReplaceDamaged(const Path& store, const Path& copy) {
         if (failure) throw FileError("文件“" + journal.string() + "”不能改名：" + failure.message() + "。");
     }
     CopyStore(copy, store);
-    return aside;
 }
 
 }  // namespace kalvane

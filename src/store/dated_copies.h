@@ -23,9 +23,9 @@ std::vector<std::filesystem::path> CopiesOf(const std::filesystem::path& store);
 /// When a copy was made, for the operator: "2025-11-25 10:15:30".
 std::string TimeOfCopy(const std::filesystem::path& copy);
 
-/// Puts a copy in the place of a damaged store, which no connection may have open. The damaged file stays in
-/// the folder of the copies under the name that is returned. Throws StoreError or FileError; the damaged file
-/// then still stands.
-std::filesystem::path ReplaceDamaged(const std::filesystem::path& store, const std::filesystem::path& copy);
+/// Puts a copy in the place of a damaged or missing store, which no connection may have open. A damaged file
+/// stays in the folder of the copies, under a name with 损坏. Throws StoreError or FileError; the damaged
+/// file then still stands.
+void ReplaceByCopy(const std::filesystem::path& store, const std::filesystem::path& copy);
 
 }  // namespace kalvane

@@ -1,6 +1,7 @@
 #include "app/startup.h"
 
 #include "app/run_marker.h"
+#include "app/store_setup.h"
 #include "platform/error.h"
 #include "platform/files.h"
 #include "store/dated_copies.h"
@@ -79,6 +80,22 @@ TEST_F(StartupTest, OfTheCopiesTheNewestSoundOneIsOffered) {
     Start();
     EXPECT_NE(notice_.shown.at(0).find("没有可用的副本"), std::string::npos);
     EXPECT_EQ(ReadFile(file_), "a letter");
+}
+
+TEST_F(StartupTest, AMissingStoreComesBackFromItsCopyAndIsNotMadeAnew) {
+    const std::filesystem::path copy = KeepCopy(file_);
+    std::filesystem::remove(file_);
+    WriteFileAtomically(folder_ / "cl.mdb-journal", std::string(600, 'x'));
+    CreateMissingStores(folder_.Path());
+    EXPECT_TRUE(std::filesystem::exists(folder_ / kStockStoreName)) << "this one has no copy";
+    Start();  // answered with no
+    EXPECT_NE(notice_.shown.at(0).find("“cl.mdb”不见了。\n\n最近的副本是 " + TimeOfCopy(copy)),
+              std::string::npos)
+        << notice_.shown[0];
+    EXPECT_FALSE(std::filesystem::exists(file_));
+    notice_.answer = true;
+    Start();
+    EXPECT_EQ(Drawings(), "7");
 }
 
 TEST(RunMarker, StandsAfterAnUncleanEndOnly) {

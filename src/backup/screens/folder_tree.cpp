@@ -1,6 +1,5 @@
 #include "backup/screens/folder_tree.h"
 
-#include <QFileInfo>
 #include <QFileSystemModel>
 
 namespace kalvane {
@@ -15,8 +14,7 @@ FolderTree::FolderTree(const QString& name, QWidget* parent)
     for (int column = 1; column < model_->columnCount(); ++column) hideColumn(column);
     // Folders are read as they come into sight, and the chosen one moves meanwhile.
     connect(model_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
-        if (Folder().isEmpty() || QFileInfo(Folder()).path() != loaded) return;
-        scrollTo(currentIndex(), PositionAtCenter);
+        if (Folder().startsWith(loaded)) ShowChosen();
     });
 }
 
@@ -27,10 +25,17 @@ QString FolderTree::Folder() const {
 void FolderTree::SetFolder(const QString& folder) {
     const QModelIndex index = folder.isEmpty() ? QModelIndex() : model_->index(folder);
     setCurrentIndex(index);
-    if (index.isValid()) {
-        expand(index);
-        scrollTo(index, PositionAtCenter);
-    }
+    if (index.isValid()) expand(index);
+    ShowChosen();
+}
+
+void FolderTree::showEvent(QShowEvent* event) {
+    QTreeView::showEvent(event);
+    ShowChosen();
+}
+
+void FolderTree::ShowChosen() {
+    if (currentIndex().isValid()) scrollTo(currentIndex(), PositionAtCenter);
 }
 
 void FolderTree::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

@@ -22,9 +22,12 @@ class FolderTree : public QTreeView {
     void FolderChanged();
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
   private:
+    void ShowChosen();
+
     QFileSystemModel* model_;
 };
 

@@ -84,7 +84,8 @@ frmSaveFile::frmSaveFile(QWidget* parent)
              [this] { Dir1_->SetFolder(Drive1_->currentData().toString()); });
     OnSignal(ok, &QPushButton::clicked, this, [this] { Save(); });
     OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
-    Dir1_->SetFolder(Remembered(RememberedFolderKey(), DatabaseFolder()));
+    const QString last = Remembered(RememberedFolderKey(), {});
+    Dir1_->SetFolder(QFileInfo(last).isDir() ? last : DatabaseFolder());  // its drive may be unplugged
     TxtFileName_->setFocus();
 }
 
