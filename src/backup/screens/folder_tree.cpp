@@ -1,6 +1,7 @@
 #include "backup/screens/folder_tree.h"
 
 #include <QFileSystemModel>
+#include <QTimer>
 
 namespace kalvane {
 
@@ -12,9 +13,9 @@ FolderTree::FolderTree(const QString& name, QWidget* parent)
     setModel(model_);
     setHeaderHidden(true);
     for (int column = 1; column < model_->columnCount(); ++column) hideColumn(column);
-    // Folders are read as they come into sight, and the chosen one moves meanwhile.
+    // Folders are read as they come into sight and sorted right after; the chosen one moves meanwhile.
     connect(model_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
-        if (Folder().startsWith(loaded)) ShowChosen();
+        if (Folder().startsWith(loaded)) QTimer::singleShot(0, this, [this] { ShowChosen(); });
     });
 }
 
