@@ -89,7 +89,11 @@ void SettingsStore::Save(std::string_view application, std::string_view section,
     for (const auto& [name, value] : values_) {
         content.append(name).append("=").append(Escape(value)).append("\n");
     }
-    WriteFileAtomically(file_, content);
+    try {
+        WriteFileAtomically(file_, content);
+    } catch (const FileError&) {
+        // Told in the header.
+    }
 }
 
 }  // namespace kalvane

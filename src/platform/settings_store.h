@@ -21,7 +21,7 @@ class SettingsStore {
     std::string Read(std::string_view application, std::string_view section, std::string_view key,
                      std::string_view fallback) const;
 
-    /// Throws FileError when the file cannot be written; the value then holds for this run only.
+    /// A file that cannot be written is not reported: the value then holds for this run only.
     void Save(std::string_view application, std::string_view section, std::string_view key,
               std::string_view text);
 

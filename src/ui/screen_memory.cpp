@@ -1,7 +1,6 @@
 #include "ui/screen_memory.h"
 
 #include "app/app_state.h"
-#include "platform/error.h"
 #include "platform/settings_store.h"
 #include "ui/text.h"
 
@@ -17,11 +16,7 @@ QString Remembered(const QString& key, const QString& fallback) {
 
 void Remember(const QString& key, const QString& text) {
     if (App().settings == nullptr || Remembered(key, {}) == text) return;
-    try {
-        App().settings->Save(kApplication, kSectionScreens, FromQt(key), FromQt(text));
-    } catch (const FileError&) {
-        // Told in the header: the next run starts from the default.
-    }
+    App().settings->Save(kApplication, kSectionScreens, FromQt(key), FromQt(text));
 }
 
 }  // namespace kalvane

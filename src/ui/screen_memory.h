@@ -5,8 +5,7 @@
 namespace kalvane {
 
 /// What the screens remember between runs besides the operator's settings: geometry and last folders.
-/// Losing it is no reason to trouble the operator, so a save that fails is not reported, and with no
-/// settings store nothing is remembered.
+/// With no settings store nothing is remembered.
 QString Remembered(const QString& key, const QString& fallback);
 void Remember(const QString& key, const QString& text);
 

@@ -22,6 +22,9 @@ TEST(SettingsStore, KeepsTextsOverARestart) {
     const SettingsStore again(file);
     EXPECT_EQ(again.Read("Tesmar", "KALVANE", "DW", "x"), "a=b\\n\r\n塑钢 ");
     EXPECT_EQ(again.Read("Norvex", "Param", "DW", "x"), "");
+    SettingsStore nowhere(file / "settings");  // below a file
+    nowhere.Save("Tesmar", "KALVANE", "DW", "this run");
+    EXPECT_EQ(nowhere.Read("Tesmar", "KALVANE", "DW", "x"), "this run");
 }
 
 TEST(Files, AFailedWriteLeavesTheOldFile) {
