@@ -7,10 +7,12 @@
 #include "app/screens/MDIMain.h"
 #include "app/screens/frmLogin.h"
 #include "app/screens/frmSetup.h"
+#include "app/startup.h"
 #include "app/store_setup.h"
 #include "platform/settings_store.h"
 #include "ui/application.h"
 #include "ui/guard.h"
+#include "ui/message_notice.h"
 
 using namespace kalvane;
 
@@ -22,6 +24,8 @@ int main(int argc, char* argv[]) {
     App().settings = &settings;
     Guarded(nullptr, [] {
         App().folder = std::filesystem::current_path();
+        MessageNotice notice(nullptr);
+        TellReadOnlyFolder(App(), notice);
         CreateMissingStores(App().folder);
     });
     RunMarker run(App().folder);

@@ -5,9 +5,9 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
 
 #include "platform/error.h"
+#include "platform/files.h"
 
 namespace kalvane {
 
@@ -20,9 +20,13 @@ InstanceLock::~InstanceLock() {
 bool InstanceLock::Acquire() {
     if (descriptor_ >= 0) return true;
     // Closed on exec, so that a program started from here does not keep the folder locked.
-    const int descriptor = ::open(file_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    int descriptor = ::open(file_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    if (descriptor < 0 && (errno == EACCES || errno == EROFS)) {
+        descriptor = ::open(file_.c_str(), O_RDONLY | O_CLOEXEC);
+        if (descriptor < 0 && errno == ENOENT) return true;
+    }
     if (descriptor < 0) {
-        throw FileError("启动文件夹“" + file_.parent_path().string() + "”不能写入：" + std::strerror(errno) +
+        throw FileError("启动文件夹“" + file_.parent_path().string() + "”不能使用：" + SystemReason(errno) +
                         "。");
     }
     if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {

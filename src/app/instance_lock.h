@@ -14,8 +14,9 @@ class InstanceLock {
     InstanceLock& operator=(const InstanceLock&) = delete;
     ~InstanceLock();
 
-    /// False when another program (or another lock object) holds the folder. Throws FileError when the lock
-    /// file cannot be made.
+    /// False when another program (or another lock object) holds the folder. A folder in which the lock file
+    /// cannot be made for want of rights needs none: this program cannot change its stores. Throws FileError
+    /// when the folder cannot be used at all.
     bool Acquire();
 
   private:

@@ -7,6 +7,7 @@
 #include "backup/restore.h"
 #include "numeric/number.h"
 #include "platform/error.h"
+#include "platform/files.h"
 #include "platform/settings_store.h"
 #include "store/dated_copies.h"
 #include "store/migration.h"
@@ -83,7 +84,7 @@ std::unique_ptr<Connection> OpenStore(const AppState& state, const char* fileNam
     } catch (const Error& error) {
         notice.Show(complaint + error.what(), kErrorTitle, NoticeIcon::Error);
     }
-    if (connection == nullptr) return nullptr;
+    if (connection == nullptr || !IsWritableFolder(state.folder)) return connection;
     try {
         KeepDailyCopy(file);
     } catch (const Error& error) {
@@ -111,6 +112,12 @@ void ReadOptimiserOptions(AppState& state, Notice& notice) {
         notice.Show(std::string("优化选项不能读取：") + error.what() + "。已改用默认值。", "提示",
                     NoticeIcon::Warning);
     }
+}
+
+void TellReadOnlyFolder(const AppState& state, Notice& notice) {
+    if (IsWritableFolder(state.folder)) return;
+    notice.Show("启动文件夹“" + state.folder.string() + "”不能写入。数据可以查看，但任何修改都不能保存。",
+                "提示", NoticeIcon::Warning);
 }
 
 std::unique_ptr<Connection> OpenUserStore(const AppState& state, Notice& notice) {

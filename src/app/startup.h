@@ -16,8 +16,12 @@ void ReadOutputSettings(AppState& state, std::int16_t windCheckDefault);
 /// Reads the optimiser's options. A stored number that does not fit leaves the defaults and is told.
 void ReadOptimiserOptions(AppState& state, Notice& notice);
 
+/// Tells the operator when nothing can be saved in the start-up folder.
+void TellReadOnlyFolder(const AppState& state, Notice& notice);
+
 // Opening a store brings it to the present layout, checks it after an unclean end, and keeps the copy of the
-// day. A damaged or a missing one is told, and its newest dated copy may take its place.
+// day when the folder can be written to. A damaged or a missing one is told, and its newest dated copy may
+// take its place.
 
 /// Opens the user store for the screen that asks; null after a failure, which is told.
 std::unique_ptr<Connection> OpenUserStore(const AppState& state, Notice& notice);

@@ -24,7 +24,7 @@ void CopyFile(const std::filesystem::path& from, const std::filesystem::path& to
     std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing, failure);
     if (failure) {
         throw FileError("文件“" + from.filename().string() + "”不能复制到“" + to.parent_path().string() +
-                        "”：" + failure.message() + "。");
+                        "”：" + SystemReason(failure.value()) + "。");
     }
 }
 

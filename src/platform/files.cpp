@@ -14,24 +14,8 @@
 namespace kalvane {
 namespace {
 
-std::string Reason(int code) {
-    switch (code) {
-        case ENOSPC:
-            return "磁盘已满";
-        case EACCES:
-        case EPERM:
-            return "没有权限";
-        case EROFS:
-            return "磁盘是只读的";
-        case ENOENT:
-            return "文件夹不存在";
-        default:
-            return std::strerror(code);
-    }
-}
-
 [[noreturn]] void FailWriting(const std::filesystem::path& path, int code) {
-    throw FileError("文件“" + path.string() + "”不能写入：" + Reason(code) + "。");
+    throw FileError("文件“" + path.string() + "”不能写入：" + SystemReason(code) + "。");
 }
 
 /// Owns a file descriptor.
@@ -79,6 +63,26 @@ void RequirePlainFile(const std::filesystem::path& path, std::uintmax_t most) {
     }
     if (std::filesystem::file_size(path, failure) > most || failure) {
         throw FileError("文件“" + path.string() + "”太大，不能打开。");
+    }
+}
+
+bool IsWritableFolder(const std::filesystem::path& folder) {
+    return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+std::string SystemReason(int code) {
+    switch (code) {
+        case ENOSPC:
+            return "磁盘已满";
+        case EACCES:
+        case EPERM:
+            return "没有权限";
+        case EROFS:
+            return "磁盘是只读的";
+        case ENOENT:
+            return "文件夹不存在";
+        default:
+            return std::strerror(code);
     }
 }
 

@@ -14,6 +14,12 @@ std::string ReadFile(const std::filesystem::path& path);
 /// most `most` bytes.
 void RequirePlainFile(const std::filesystem::path& path, std::uintmax_t most);
 
+/// True when files can be made in a folder.
+bool IsWritableFolder(const std::filesystem::path& folder);
+
+/// What an error number of the operating system means, for the operator, without a full stop.
+std::string SystemReason(int code);
+
 /// Replaces a file's content as one step: the bytes go to a file beside it, are flushed to the disk and
 /// renamed into place. A failure throws FileError and leaves the old file as it was.
 void WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes);

@@ -6,6 +6,7 @@
 #include <ctime>
 
 #include "platform/error.h"
+#include "platform/files.h"
 #include "store/store_copy.h"
 
 namespace kalvane {
@@ -74,7 +75,8 @@ void KeepAside(const Path& file, const Path& aside) {
     std::error_code failure;
     std::filesystem::create_hard_link(file, aside, failure);
     if (failure) std::filesystem::copy_file(file, aside, failure);
-    if (failure) throw FileError("文件“" + file.string() + "”不能另存：" + failure.message() + "。");
+    if (failure)
+        throw FileError("文件“" + file.string() + "”不能另存：" + SystemReason(failure.value()) + "。");
 }
 
 }  // namespace
@@ -123,7 +125,9 @@ void ReplaceByCopy(const Path& store, const Path& copy) {
         journalAside += "-journal";
         std::error_code failure;
         std::filesystem::rename(journal, journalAside, failure);
-        if (failure) throw FileError("文件“" + journal.string() + "”不能改名：" + failure.message() + "。");
+        if (failure)
+            throw FileError("文件“" + journal.string() + "”不能改名：" + SystemReason(failure.value()) +
+                            "。");
     }
     CopyStore(copy, store);
 }

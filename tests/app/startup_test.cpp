@@ -1,5 +1,8 @@
 #include "app/startup.h"
 
+#include <unistd.h>
+
+#include "app/instance_lock.h"
 #include "app/run_marker.h"
 #include "app/store_setup.h"
 #include "platform/error.h"
@@ -95,6 +98,36 @@ TEST_F(StartupTest, AMissingStoreComesBackFromItsCopyAndIsNotMadeAnew) {
     EXPECT_FALSE(std::filesystem::exists(file_));
     notice_.answer = true;
     Start();
+    EXPECT_EQ(Drawings(), "7");
+}
+
+/// Takes the right to write away from a folder, and from this process the rights of an administrator.
+class ReadOnlyFolder {
+  public:
+    explicit ReadOnlyFolder(std::filesystem::path folder) : folder_(std::move(folder)) {
+        std::filesystem::permissions(folder_, std::filesystem::perms(0555));
+        if (user_ == 0 && seteuid(65534) != 0) ADD_FAILURE() << "the rights stay";
+    }
+    ~ReadOnlyFolder() {
+        if (user_ == 0 && seteuid(0) != 0) ADD_FAILURE() << "the rights do not come back";
+        std::filesystem::permissions(folder_, std::filesystem::perms(0755));
+    }
+
+  private:
+    std::filesystem::path folder_;
+    uid_t user_ = geteuid();
+};
+
+TEST_F(StartupTest, AReadOnlyFolderIsToldOnceAndCanBeLookedAt) {
+    const ReadOnlyFolder readOnly(folder_.Path());
+    InstanceLock lock(folder_.Path());
+    EXPECT_TRUE(lock.Acquire());
+    Start();
+    EXPECT_TRUE(notice_.shown.empty()) << "no copy of the day, and no word about it";
+    TellReadOnlyFolder(state_, notice_);
+    EXPECT_EQ(notice_.shown.size(), 1U);
+    EXPECT_EQ(Drawings(), "7");
+    EXPECT_THROW(state_.Main().Execute("Insert into 图 (编号) values(8)"), StoreError);
     EXPECT_EQ(Drawings(), "7");
 }
 
