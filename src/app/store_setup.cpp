@@ -1,7 +1,5 @@
 #include "app/store_setup.h"
 
-#include <unistd.h>
-
 #include <functional>
 #include <string>
 
@@ -9,6 +7,7 @@
 #include "app/starter_library.h"
 #include "app/user_accounts.h"
 #include "platform/files.h"
+#include "platform/unfinished_file.h"
 #include "store/connection.h"
 #include "store/dated_copies.h"
 #include "store/starter_files.h"
@@ -27,21 +26,13 @@ void CreateWhole(const std::filesystem::path& file, StoreKind kind,
                  const std::function<void(Connection&)>& fill) {
     if (std::filesystem::exists(file) || !CopiesOf(file).empty()) return;
     // Two programs may find the folder empty at the same moment.
-    std::filesystem::path unfinished = file;
-    unfinished += ".new" + std::to_string(::getpid());
-    std::error_code failure;
-    std::filesystem::remove(unfinished, failure);
-    try {
-        CreateStore(unfinished, kind);
-        if (fill) {
-            Connection connection(unfinished, kind);
-            fill(connection);
-        }
-    } catch (...) {
-        std::filesystem::remove(unfinished, failure);
-        throw;
+    UnfinishedFile unfinished(file);
+    CreateStore(unfinished.Path(), kind);
+    if (fill) {
+        Connection connection(unfinished.Path(), kind);
+        fill(connection);
     }
-    RenameUnlessTaken(unfinished, file);
+    unfinished.FinishUnlessTaken();
 }
 
 }  // namespace

@@ -1,12 +1,11 @@
 #include "backup/backup.h"
 
-#include <unistd.h>
-
 #include <array>
 #include <string>
 
 #include "platform/error.h"
 #include "platform/files.h"
+#include "platform/unfinished_file.h"
 #include "store/command_scope.h"
 #include "store/store_files.h"
 #include "store/table_writer.h"
@@ -60,23 +59,13 @@ std::filesystem::path BackupPath(const std::filesystem::path& folder, std::strin
 void BackupMainStore(Connection& main, const std::filesystem::path& templateStore,
                      const std::filesystem::path& target, const TableProgress& progress) {
     RefuseStores(target, main.File().parent_path());
-    std::filesystem::path beside = target;
-    beside += ".tmp" + std::to_string(::getpid());
-    try {
-        CopyFile(templateStore, beside);
-        {
-            Connection backup(beside, StoreKind::Main);
-            InCommand(backup, [&] { FillBackup(main, backup, progress); });
-        }
-        RenameIntoPlace(beside, target);
-    } catch (...) {
-        std::error_code ignored;
-        std::filesystem::remove(beside, ignored);
-        std::filesystem::path journal = beside;
-        journal += "-journal";
-        std::filesystem::remove(journal, ignored);
-        throw;
+    UnfinishedFile file(target);
+    CopyFile(templateStore, file.Path());
+    {
+        Connection backup(file.Path(), StoreKind::Main);
+        InCommand(backup, [&] { FillBackup(main, backup, progress); });
     }
+    file.Finish();
 }
 
 }  // namespace kalvane

@@ -9,29 +9,12 @@
 #include <fstream>
 #include <iterator>
 
+#include "platform/descriptor.h"
 #include "platform/error.h"
+#include "platform/unfinished_file.h"
 
 namespace kalvane {
 namespace {
-
-[[noreturn]] void FailWriting(const std::filesystem::path& path, int code) {
-    throw FileError("文件“" + path.string() + "”不能写入：" + SystemReason(code) + "。");
-}
-
-/// Owns a file descriptor.
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : number_(number) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (number_ >= 0) ::close(number_);
-    }
-    int Get() const { return number_; }
-
-  private:
-    int number_;
-};
 
 void WriteAll(int descriptor, std::string_view bytes, const std::filesystem::path& path) {
     while (!bytes.empty()) {
@@ -66,6 +49,10 @@ void RequirePlainFile(const std::filesystem::path& path, std::uintmax_t most) {
     }
 }
 
+void FailWriting(const std::filesystem::path& path, int code) {
+    throw FileError("文件“" + path.string() + "”不能写入：" + SystemReason(code) + "。");
+}
+
 bool IsWritableFolder(const std::filesystem::path& folder) {
     return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
@@ -87,42 +74,14 @@ std::string SystemReason(int code) {
 }
 
 void WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes) {
-    std::filesystem::path beside = path;
-    beside += ".tmp" + std::to_string(::getpid());
-    try {
-        const Descriptor file(::open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    UnfinishedFile beside(path);
+    {
+        const Descriptor file(::open(beside.Path().c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
         if (file.Get() < 0) FailWriting(path, errno);
         WriteAll(file.Get(), bytes, path);
         if (::fsync(file.Get()) != 0) FailWriting(path, errno);
-    } catch (...) {
-        ::unlink(beside.c_str());
-        throw;
     }
-    RenameIntoPlace(beside, path);
-}
-
-void RenameIntoPlace(const std::filesystem::path& finished, const std::filesystem::path& name) {
-    if (::rename(finished.c_str(), name.c_str()) != 0) {
-        const int reason = errno;
-        ::unlink(finished.c_str());
-        FailWriting(name, reason);
-    }
-    // The rename itself must survive a power cut; a folder that cannot be opened for it is no failure.
-    const std::filesystem::path folder = name.has_parent_path() ? name.parent_path() : ".";
-    const Descriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (directory.Get() >= 0) ::fsync(directory.Get());
-}
-
-void RenameUnlessTaken(const std::filesystem::path& finished, const std::filesystem::path& name) {
-    int failed = ::renameat2(AT_FDCWD, finished.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE);
-    // Some file systems know no such rename.
-    if (failed != 0 && errno == EINVAL && !std::filesystem::exists(name)) {
-        failed = ::rename(finished.c_str(), name.c_str());
-    }
-    if (failed == 0) return;
-    const int reason = errno;
-    ::unlink(finished.c_str());
-    if (reason != EEXIST) FailWriting(name, reason);
+    beside.Finish();
 }
 
 }  // namespace kalvane

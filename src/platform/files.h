@@ -20,16 +20,11 @@ bool IsWritableFolder(const std::filesystem::path& folder);
 /// What an error number of the operating system means, for the operator, without a full stop.
 std::string SystemReason(int code);
 
+/// Throws the FileError of a file that cannot be written, for an error number of the operating system.
+[[noreturn]] void FailWriting(const std::filesystem::path& path, int code);
+
 /// Replaces a file's content as one step: the bytes go to a file beside it, are flushed to the disk and
 /// renamed into place. A failure throws FileError and leaves the old file as it was.
 void WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes);
-
-/// Gives a finished file its name as one step, in place of a file that had it, and brings that to the disk.
-/// Throws FileError; the finished file is removed then, and the other stays as it was.
-void RenameIntoPlace(const std::filesystem::path& finished, const std::filesystem::path& name);
-
-/// Gives a finished file its name unless that name is taken by now; then the file is removed, and the one
-/// that has the name stays as it is. Throws FileError.
-void RenameUnlessTaken(const std::filesystem::path& finished, const std::filesystem::path& name);
 
 }  // namespace kalvane

@@ -1,12 +1,11 @@
 #include "store/store_copy.h"
 
 #include <sqlite3.h>
-#include <unistd.h>
 
 #include <string>
 
 #include "platform/error.h"
-#include "platform/files.h"
+#include "platform/unfinished_file.h"
 #include "store/engine_error.h"
 
 namespace kalvane {
@@ -45,29 +44,16 @@ void CopyPages(const RawStore& source, const RawStore& target) {
     if (sqlite3_backup_finish(copying) != SQLITE_OK) ThrowEngineError(target.Get());
 }
 
-void RemoveQuietly(const std::filesystem::path& file) {
-    std::error_code ignored;
-    std::filesystem::remove(file, ignored);
-}
-
 }  // namespace
 
 void CopyStore(const std::filesystem::path& source, const std::filesystem::path& target) {
-    std::filesystem::path beside = target;
-    beside += ".tmp" + std::to_string(::getpid());
-    std::filesystem::path journal = beside;
-    journal += "-journal";
-    RemoveQuietly(beside);
-    try {
+    UnfinishedFile copy(target);
+    {
         const RawStore from(source, SQLITE_OPEN_READWRITE);
-        const RawStore to(beside, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+        const RawStore to(copy.Path(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
         CopyPages(from, to);
-    } catch (...) {
-        RemoveQuietly(beside);
-        RemoveQuietly(journal);
-        throw;
     }
-    RenameIntoPlace(beside, target);
+    copy.Finish();
 }
 
 void ReplaceContent(const std::filesystem::path& target, const std::filesystem::path& source) {

@@ -1,0 +1,55 @@
+#include "platform/unfinished_file.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <string>
+
+#include "platform/descriptor.h"
+#include "platform/files.h"
+
+namespace kalvane {
+namespace {
+
+std::filesystem::path PassingName(std::filesystem::path name) {
+    return name += ".tmp" + std::to_string(::getpid());
+}
+
+}  // namespace
+
+UnfinishedFile::UnfinishedFile(std::filesystem::path name)
+    : name_(std::move(name)), path_(PassingName(name_)) {
+    Remove();
+}
+
+UnfinishedFile::~UnfinishedFile() {
+    Remove();
+}
+
+void UnfinishedFile::Remove() const {
+    std::filesystem::path journal = path_;
+    journal += "-journal";
+    ::unlink(path_.c_str());
+    ::unlink(journal.c_str());
+}
+
+void UnfinishedFile::Finish() {
+    if (::rename(path_.c_str(), name_.c_str()) != 0) FailWriting(name_, errno);
+    // The rename itself must survive a power cut; a folder that cannot be opened for it is no failure.
+    const std::filesystem::path folder = name_.has_parent_path() ? name_.parent_path() : ".";
+    const Descriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (directory.Get() >= 0) ::fsync(directory.Get());
+}
+
+void UnfinishedFile::FinishUnlessTaken() {
+    int failed = ::renameat2(AT_FDCWD, path_.c_str(), AT_FDCWD, name_.c_str(), RENAME_NOREPLACE);
+    // Some file systems know no such rename.
+    if (failed != 0 && errno == EINVAL && !std::filesystem::exists(name_)) {
+        failed = ::rename(path_.c_str(), name_.c_str());
+    }
+    if (failed != 0 && errno != EEXIST) FailWriting(name_, errno);
+}
+
+}  // namespace kalvane

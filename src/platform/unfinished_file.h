@@ -1,0 +1,36 @@
+#pragma once
+
+#include <filesystem>
+
+namespace kalvane {
+
+/// A file that is written under a passing name beside its own and gets that only when it is whole: a failure
+/// or a kill never leaves half a file under the name, nor takes away one that stood there. A file that was
+/// not finished is removed, with the journal that the store's engine may have left beside it.
+class UnfinishedFile {
+  public:
+    /// What an earlier process of the same number left under the passing name is removed.
+    explicit UnfinishedFile(std::filesystem::path name);
+    UnfinishedFile(const UnfinishedFile&) = delete;
+    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
+    ~UnfinishedFile();
+
+    /// Where to write it.
+    const std::filesystem::path& Path() const { return path_; }
+
+    /// Gives the file its name as one step, in place of a file that had it, and brings that to the disk.
+    /// Throws FileError; the other file then stays as it was.
+    void Finish();
+
+    /// Gives the file its name unless that is taken by now: the file that has it then stays. Throws
+    /// FileError.
+    void FinishUnlessTaken();
+
+  private:
+    void Remove() const;
+
+    std::filesystem::path name_;
+    std::filesystem::path path_;
+};
+
+}  // namespace kalvane
