@@ -5,6 +5,8 @@
 #include <cmath>
 #include <optional>
 
+#include "numeric/text.h"
+
 namespace kalvane {
 namespace {
 
@@ -38,39 +40,10 @@ void AppendItem(std::string& text, std::string_view kind, std::initializer_list<
     text += '\n';
 }
 
-/// A text on one line, with backslashes before what would end it.
 void AppendText(std::string& line, std::string_view text) {
     line += ' ';
-    for (const char c : text) {
-        if (c == '\n') {
-            line += "\\n";
-        } else {
-            if (c == '\\') line += c;
-            line += c;
-        }
-    }
+    line += OnOneLine(text);
     line += '\n';
-}
-
-std::string Unescape(std::string_view line) {
-    std::string text;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        if (line[i] == '\\' && i + 1 < line.size()) {
-            ++i;
-            text += line[i] == 'n' ? '\n' : line[i];
-        } else {
-            text += line[i];
-        }
-    }
-    return text;
-}
-
-/// Takes what stands before the next `end` off a text, and `end` with it.
-std::string_view TakeUntil(std::string_view& text, char end) {
-    const std::size_t length = text.find(end);
-    const std::string_view taken = text.substr(0, length);
-    text.remove_prefix(length == std::string_view::npos ? text.size() : length + 1);
-    return taken;
 }
 
 /// The coordinates at the front of a line, which are taken off it; nothing when one is missing.
@@ -79,7 +52,7 @@ std::optional<std::array<Point, Count>> TakePoints(std::string_view& line) {
     std::array<Point, Count> points;
     for (Point& point : points) {
         for (float* value : {&point.x, &point.y}) {
-            const std::string_view token = TakeUntil(line, ' ');
+            const std::string_view token = TakeUpTo(line, " ");
             const auto end = token.data() + token.size();
             const auto [stop, failure] = std::from_chars(token.data(), end, *value);
             if (failure != std::errc() || stop != end || !std::isfinite(*value)) return std::nullopt;
@@ -89,12 +62,12 @@ std::optional<std::array<Point, Count>> TakePoints(std::string_view& line) {
 }
 
 void ReadLine(std::string_view line, UnsavedDrawing& drawing) {
-    const std::string_view kind = TakeUntil(line, ' ');
+    const std::string_view kind = TakeUpTo(line, " ");
     DrawingItems& items = drawing.items;
     if (kind == kNumber) {
-        drawing.number = Unescape(line);
+        drawing.number = FromOneLine(line);
     } else if (kind == kName) {
-        drawing.name = Unescape(line);
+        drawing.name = FromOneLine(line);
     } else if (kind == kLine) {
         if (const auto p = TakePoints<2>(line)) items.lines.push_back({(*p)[0], (*p)[1]});
     } else if (kind == kRectangle) {
@@ -106,7 +79,7 @@ void ReadLine(std::string_view line, UnsavedDrawing& drawing) {
     } else if (kind == kArc) {
         if (const auto p = TakePoints<3>(line)) items.arcs.push_back({(*p)[0], (*p)[1], (*p)[2]});
     } else if (kind == kString) {
-        if (const auto p = TakePoints<1>(line)) items.strings.push_back({(*p)[0], Unescape(line)});
+        if (const auto p = TakePoints<1>(line)) items.strings.push_back({(*p)[0], FromOneLine(line)});
     }
 }
 
@@ -139,7 +112,7 @@ std::string RecoveryText(const UnsavedDrawing& drawing) {
 
 UnsavedDrawing ReadRecoveryText(std::string_view text) {
     UnsavedDrawing drawing;
-    while (!text.empty()) ReadLine(TakeUntil(text, '\n'), drawing);
+    while (!text.empty()) ReadLine(TakeUpTo(text, "\n"), drawing);
     return drawing;
 }
 

@@ -1,5 +1,7 @@
 #include "numeric/text.h"
 
+#include <algorithm>
+
 namespace kalvane {
 namespace {
 
@@ -55,6 +57,42 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b) {
         if (Upper(a[i]) != Upper(b[i])) return false;
     }
     return true;
+}
+
+std::string_view TakeUpTo(std::string_view& rest, std::string_view ends) {
+    const std::size_t end = std::min(rest.find_first_of(ends), rest.size());
+    const std::string_view taken = rest.substr(0, end);
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+    return taken;
+}
+
+std::string OnOneLine(std::string_view text) {
+    std::string line;
+    for (const char c : text) {
+        if (c == '\\') {
+            line += "\\\\";
+        } else if (c == '\n') {
+            line += "\\n";
+        } else if (c == '\r') {
+            line += "\\r";
+        } else {
+            line += c;
+        }
+    }
+    return line;
+}
+
+std::string FromOneLine(std::string_view line) {
+    std::string text;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        if (line[i] == '\\' && i + 1 < line.size()) {
+            ++i;
+            text += line[i] == 'n' ? '\n' : line[i] == 'r' ? '\r' : line[i];
+        } else {
+            text += line[i];
+        }
+    }
+    return text;
 }
 
 std::size_t CharCount(std::string_view text) {

@@ -16,6 +16,15 @@ void MakeUpperCase(std::string& text);
 /// True when both are the same but for ASCII letter case.
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 
+/// Takes what stands before the first of the characters `ends`, and that one, off the front of `rest`; all of
+/// it when there is none.
+std::string_view TakeUpTo(std::string_view& rest, std::string_view ends);
+
+/// A text as it stands on one line of a file: backslashes and line ends are written as escapes, which
+/// FromOneLine reads.
+std::string OnOneLine(std::string_view text);
+std::string FromOneLine(std::string_view line);
+
 /// Characters (code points) in a UTF-8 text; a Chinese character counts as one.
 std::size_t CharCount(std::string_view text);
 

@@ -12,14 +12,6 @@
 namespace kalvane {
 namespace {
 
-/// Takes the text up to the first of `ends`, and that one, off `rest`.
-std::string_view TakeUpTo(std::string_view& rest, std::string_view ends) {
-    const std::size_t end = std::min(rest.find_first_of(ends), rest.size());
-    const std::string_view taken = rest.substr(0, end);
-    rest.remove_prefix(std::min(end + 1, rest.size()));
-    return taken;
-}
-
 /// A line ends at a line feed, a carriage return, or both.
 std::string_view TakeLine(std::string_view& rest) {
     const std::string_view line = TakeUpTo(rest, "\r\n");

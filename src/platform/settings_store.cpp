@@ -1,8 +1,8 @@
 #include "platform/settings_store.h"
 
-#include <algorithm>
 #include <cstdlib>
 
+#include "numeric/text.h"
 #include "platform/error.h"
 #include "platform/files.h"
 
@@ -13,36 +13,6 @@ std::string FullKey(std::string_view application, std::string_view section, std:
     std::string full(application);
     full.append("/").append(section).append("/").append(key);
     return full;
-}
-
-/// One value on one line: a backslash and line ends are written as escapes.
-std::string Escape(std::string_view text) {
-    std::string result;
-    for (const char c : text) {
-        if (c == '\\') {
-            result += "\\\\";
-        } else if (c == '\n') {
-            result += "\\n";
-        } else if (c == '\r') {
-            result += "\\r";
-        } else {
-            result += c;
-        }
-    }
-    return result;
-}
-
-std::string Unescape(std::string_view text) {
-    std::string result;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\\' && i + 1 < text.size()) {
-            ++i;
-            result += text[i] == 'n' ? '\n' : text[i] == 'r' ? '\r' : text[i];
-        } else {
-            result += text[i];
-        }
-    }
-    return result;
 }
 
 }  // namespace
@@ -58,11 +28,10 @@ SettingsStore::SettingsStore(std::filesystem::path file) : file_(std::move(file)
     }
     std::string_view rest = content;
     while (!rest.empty()) {
-        const std::string_view line = rest.substr(0, rest.find('\n'));
-        rest.remove_prefix(std::min(rest.size(), line.size() + 1));
+        const std::string_view line = TakeUpTo(rest, "\n");
         const std::size_t equals = line.find('=');
         if (equals == std::string_view::npos) continue;
-        values_[std::string(line.substr(0, equals))] = Unescape(line.substr(equals + 1));
+        values_[std::string(line.substr(0, equals))] = FromOneLine(line.substr(equals + 1));
     }
 }
 
@@ -87,7 +56,7 @@ void SettingsStore::Save(std::string_view application, std::string_view section,
     std::filesystem::create_directories(file_.parent_path(), failure);
     std::string content;
     for (const auto& [name, value] : values_) {
-        content.append(name).append("=").append(Escape(value)).append("\n");
+        content.append(name).append("=").append(OnOneLine(value)).append("\n");
     }
     try {
         WriteFileAtomically(file_, content);
