@@ -4,6 +4,7 @@
 #include <array>
 #include <map>
 
+#include "drawing/shapes.h"
 #include "numeric/number.h"
 #include "optimise/fitting_text.h"
 #include "optimise/pattern_text.h"
@@ -42,13 +43,6 @@ constexpr PageFont kTitleFont{14, true};
 constexpr float kTitleHeight = 420;
 constexpr float kHeadingHeight = 320;
 constexpr float kFootHeight = 320;
-
-void Outline(PageTarget& target, const Box& box) {
-    target.DrawLine(box.x1, box.y1, box.x2, box.y1);
-    target.DrawLine(box.x2, box.y1, box.x2, box.y2);
-    target.DrawLine(box.x2, box.y2, box.x1, box.y2);
-    target.DrawLine(box.x1, box.y2, box.x1, box.y1);
-}
 
 /// Strokes from the lower left to the upper right, by which a rest is known in grey print too.
 void Hatch(PageTarget& target, const Box& box) {
@@ -177,7 +171,7 @@ void CutDiagram::PaintBar(PageTarget& target, const CutBar& bar, float y, float 
         switch (block.kind) {
             case CutBlock::Kind::Piece:
                 target.FillBox(box, kColours[block.colour % kColours.size()]);
-                Outline(target, box);
+                DrawRectangle(target, {box.x1, box.y1}, {box.x2, box.y2});
                 DrawFittingText(target, box, std::to_string(block.length), {kBlockPoints, false});
                 break;
             case CutBlock::Kind::Loss:
@@ -186,7 +180,7 @@ void CutDiagram::PaintBar(PageTarget& target, const CutBar& bar, float y, float 
             case CutBlock::Kind::Rest:
                 target.FillBox(box, kRestColour);
                 Hatch(target, box);
-                Outline(target, box);
+                DrawRectangle(target, {box.x1, box.y1}, {box.x2, box.y2});
                 break;
         }
     }

@@ -64,9 +64,7 @@ PageRecord Recorded(const PageSetup& setup, const PaintPages& paint) {
 
 /// Paints recorded commands.
 struct Replay {
-    QPainter& painter;
     PainterTarget& target;
-    double unitsPerTwip;
 
     void operator()(const PageLine& line) const { target.DrawLine(line.x1, line.y1, line.x2, line.y2); }
     void operator()(const PageText& text) const {
@@ -75,10 +73,7 @@ struct Replay {
         target.DrawText(text.x, text.y, text.text);
     }
     void operator()(const PageFill& fill) const {
-        const Box& box = fill.box;
-        const QRectF area(QPointF(box.x1 * unitsPerTwip, box.y1 * unitsPerTwip),
-                          QPointF(box.x2 * unitsPerTwip, box.y2 * unitsPerTwip));
-        painter.fillRect(area.normalized(), QColor(fill.colour.red, fill.colour.green, fill.colour.blue));
+        target.FillBox(fill.box, QColor(fill.colour.red, fill.colour.green, fill.colour.blue));
     }
 };
 
@@ -100,7 +95,7 @@ void PageDocument::PaintPage(int page, QPainter& painter, double unitsPerTwip,
     if (medium == PainterTarget::Medium::Screen) corner = corner.toPoint();
     painter.translate(corner);
     PainterTarget target(painter, unitsPerTwip, medium);
-    const Replay replay{painter, target, unitsPerTwip};
+    const Replay replay{target};
     for (const PageCommand& command : record_.Pages()[static_cast<std::size_t>(page)]) {
         std::visit(replay, command);
     }

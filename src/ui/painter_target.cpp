@@ -75,6 +75,12 @@ void PainterTarget::DrawLine(float x1, float y1, float x2, float y2) {
     }
 }
 
+void PainterTarget::FillBox(const Box& box, const QColor& colour) {
+    const QRectF area(QPointF(box.x1 * unitsPerTwip_, box.y1 * unitsPerTwip_),
+                      QPointF(box.x2 * unitsPerTwip_, box.y2 * unitsPerTwip_));
+    painter_.fillRect(area.normalized(), colour);
+}
+
 void PainterTarget::DrawOnPixels(QPointF from, QPointF to) {
     const auto pixelCentre = [](QPointF p) {
         return QPointF(std::floor(p.x()) + 0.5, std::floor(p.y()) + 0.5);

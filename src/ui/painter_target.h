@@ -29,6 +29,7 @@ class PainterTarget : public PaintTarget {
     void DrawLine(float x1, float y1, float x2, float y2) override;
     void DrawText(float x, float y, std::string_view text) override;
     float TextHeight(std::string_view text) const override;
+    void FillBox(const Box& box, const QColor& colour);
     /// Does nothing: it paints one picture, or one page of a PageDocument.
     void NewPage() override {}
 

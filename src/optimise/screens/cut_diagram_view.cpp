@@ -18,10 +18,7 @@ constexpr int kRowPixels = static_cast<int>(CutDiagram::kRowHeight / kTwipsPerPi
 class CanvasPage final : public PageTarget {
   public:
     CanvasPage(QPainter& painter, int width, int height)
-        : painter_(painter),
-          width_(width),
-          height_(height),
-          target_(painter, kScale, PainterTarget::Medium::Screen) {}
+        : width_(width), height_(height), target_(painter, kScale, PainterTarget::Medium::Screen) {}
 
     float Width() const override { return static_cast<float>(width_ * kTwipsPerPixel); }
     float Height() const override { return static_cast<float>(height_ * kTwipsPerPixel); }
@@ -34,9 +31,7 @@ class CanvasPage final : public PageTarget {
     void DrawLine(float x1, float y1, float x2, float y2) override { target_.DrawLine(x1, y1, x2, y2); }
     void DrawText(float x, float y, std::string_view text) override { target_.DrawText(x, y, text); }
     void FillBox(const Box& box, PageColour colour) override {
-        painter_.fillRect(
-            QRectF(QPointF(box.x1 * kScale, box.y1 * kScale), QPointF(box.x2 * kScale, box.y2 * kScale)),
-            QColor(colour.red, colour.green, colour.blue));
+        target_.FillBox(box, QColor(colour.red, colour.green, colour.blue));
     }
     void NewPage() override {}
     void EndDocument() override {}
@@ -44,7 +39,6 @@ class CanvasPage final : public PageTarget {
   private:
     static constexpr double kScale = 1.0 / kTwipsPerPixel;
 
-    QPainter& painter_;
     int width_;
     int height_;
     PainterTarget target_;
