@@ -33,14 +33,13 @@ std::vector<PlanRow> LoadSummedPlan(Connection& connection) {
     return rows;
 }
 
-std::vector<CutRow> LoadCutTable(Connection& connection) {
+std::vector<CutRow> CutTable(const std::vector<PlanRow>& plan) {
     std::vector<CutRow> table;
     std::string material;
-    for (PlanRow& row : LoadSummedPlan(connection)) {
+    for (const PlanRow& row : plan) {
         const bool isFollowUp = !table.empty() && row.material == material;
         material = row.material;
-        table.push_back({isFollowUp ? "" : row.material, std::move(row.pattern), std::move(row.count),
-                         std::move(row.ratio), std::move(row.rest)});
+        table.push_back({isFollowUp ? "" : row.material, row.pattern, row.count, row.ratio, row.rest});
     }
     return table;
 }
@@ -59,7 +58,8 @@ std::vector<TotalRow> LoadTotalTable(Connection& connection) {
 }
 
 PlanOutput LoadPlanOutput(Connection& connection, std::string projectName, std::string today) {
-    return {LoadCutTable(connection), LoadTotalTable(connection), std::move(projectName), std::move(today)};
+    return {CutTable(LoadSummedPlan(connection)), LoadTotalTable(connection), std::move(projectName),
+            std::move(today)};
 }
 
 }  // namespace kalvane

@@ -32,8 +32,8 @@ using CutRow = std::array<std::string, 5>;
 /// Columns 材料名称, 数量, 优化比率.
 using TotalRow = std::array<std::string, 3>;
 
-/// 材料切割表: LoadSummedPlan as a table. The material stands only on its first row.
-std::vector<CutRow> LoadCutTable(Connection& connection);
+/// 材料切割表: the rows of LoadSummedPlan as a table. The material stands only on its first row.
+std::vector<CutRow> CutTable(const std::vector<PlanRow>& plan);
 
 /// 材料统计表: bars per material and their mean ratio weighted by the bars, unrounded.
 std::vector<TotalRow> LoadTotalTable(Connection& connection);

@@ -24,7 +24,7 @@ Report dsYHB(Connection& connection, std::string_view projectName) {
                       {"优化比率", 19, ReportAlign::Right},
                       {"剩余料长", 10, ReportAlign::Right},
                       {"实际需求量", 12}};
-    AddRows(report, LoadCutTable(connection));
+    AddRows(report, CutTable(LoadSummedPlan(connection)));
     return report;
 }
 

@@ -7,7 +7,7 @@
 
 namespace kalvane {
 
-// The two printed reports of the plan in 优化结果, with the rows of LoadCutTable and LoadTotalTable. The last
+// The two printed reports of the plan in 优化结果, with the rows of CutTable and LoadTotalTable. The last
 // column is left to be filled in by hand. They throw StoreError.
 
 /// 材料优化表: how each bar is cut.

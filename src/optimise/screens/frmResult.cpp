@@ -83,9 +83,9 @@ frmResult::frmResult(QWidget* parent)
 }
 
 void frmResult::Load() {
-    AddRows(*lvw1_, LoadCutTable(App().Main()));
-    AddRows(*lvw2_, LoadTotalTable(App().Main()));
     const std::vector<PlanRow> plan = LoadSummedPlan(App().Main());
+    AddRows(*lvw1_, CutTable(plan));
+    AddRows(*lvw2_, LoadTotalTable(App().Main()));
     yield_->Show(PlanYield(plan, App().optimise), App().optimise.CLC);
     diagram_->Show(std::make_unique<CutDiagram>(plan, App().optimise));
 }
