@@ -5,7 +5,6 @@
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -17,6 +16,7 @@
 #include "ui/guard.h"
 #include "ui/message_notice.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 
 namespace kalvane {
 namespace {
@@ -29,11 +29,10 @@ const QString kTitle = QStringLiteral("提示");
 frmLogin::frmLogin(QWidget* parent)
     : Screen(QStringLiteral("frmLogin"), QStringLiteral("登录"), parent),
       cboUsrNm_(new QComboBox(this)),
-      txtPassword_(new QLineEdit(this)) {
+      txtPassword_(MakeBox(QStringLiteral("txtPassword"), this)) {
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
     cboUsrNm_->setObjectName(QStringLiteral("cboUsrNm"));
     cboUsrNm_->setMinimumWidth(kFieldWidth);
-    txtPassword_->setObjectName(QStringLiteral("txtPassword"));
     txtPassword_->setEchoMode(QLineEdit::Password);
 
     auto* picture = new QLabel(this);

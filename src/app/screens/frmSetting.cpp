@@ -3,7 +3,6 @@
 #include <QButtonGroup>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -11,6 +10,7 @@
 #include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 
 namespace kalvane {
 namespace {
@@ -64,9 +64,7 @@ frmSetting::frmSetting(QWidget* parent)
 }
 
 QLineEdit* frmSetting::AddBox(QFormLayout& fields, const char* name, const QString& label) {
-    auto* box = new QLineEdit(this);
-    box->setObjectName(QLatin1String(name));
-    box->setMinimumWidth(kBoxWidth);
+    QLineEdit* box = MakeBox(QLatin1String(name), this, kBoxWidth);
     fields.addRow(label, box);
     return box;
 }
@@ -74,8 +72,7 @@ QLineEdit* frmSetting::AddBox(QFormLayout& fields, const char* name, const QStri
 QLineEdit* frmSetting::AddPath(QFormLayout& fields, const char* name, const char* view,
                                const QString& label) {
     const QString toolTip = QStringLiteral("仅供查看：数据文件总是从启动文件夹打开");
-    auto* box = new QLineEdit(this);
-    box->setObjectName(QLatin1String(name));
+    QLineEdit* box = MakeBox(QLatin1String(name), this);
     box->setToolTip(toolTip);
     QPushButton* button = MakeButton(view, QStringLiteral("..."), this, toolTip);
     button->setAutoDefault(false);

@@ -2,7 +2,6 @@
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include "app/app_state.h"
@@ -14,6 +13,7 @@
 #include "ui/guard.h"
 #include "ui/message_notice.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 
 namespace kalvane {
 namespace {
@@ -34,11 +34,9 @@ frmUserChangPwd::frmUserChangPwd(QWidget* parent)
     for (int i = 0; i < kBoxCount; ++i) {
         auto* label = new QLabel(captions[i], this);
         label->setObjectName(QStringLiteral("lblPwd(%1)").arg(i));
-        auto* box = new QLineEdit(this);
-        box->setObjectName(QStringLiteral("txtPwd(%1)").arg(i));
+        QLineEdit* box = MakeBox(QStringLiteral("txtPwd(%1)").arg(i), this, kBoxWidth);
         box->setEchoMode(QLineEdit::Password);
         box->setMaxLength(kPasswordLength);
-        box->setMinimumWidth(kBoxWidth);
         fields->addWidget(label, i, 0);
         fields->addWidget(box, i, 1);
         lblPwd_[static_cast<std::size_t>(i)] = label;

@@ -4,7 +4,6 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -16,6 +15,7 @@
 #include "ui/message_notice.h"
 #include "ui/report_list.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 
 namespace kalvane {
 namespace {
@@ -30,11 +30,9 @@ const QString kTitle = QStringLiteral("提示");
 frmUserMng::frmUserMng(QWidget* parent)
     : Screen(QStringLiteral("frmUserMng"), QStringLiteral("用户管理"), parent),
       lvw_(new ReportList(QStringLiteral("lvw"), {QStringLiteral("用户名")}, this)),
-      txtUsrNm_(new QLineEdit(this)),
-      txtUsrPwd_(new QLineEdit(this)) {
-    txtUsrNm_->setObjectName(QStringLiteral("txtUsrNm"));
+      txtUsrNm_(MakeBox(QStringLiteral("txtUsrNm"), this)),
+      txtUsrPwd_(MakeBox(QStringLiteral("txtUsrPwd"), this)) {
     txtUsrNm_->setMaxLength(kNameLength);
-    txtUsrPwd_->setObjectName(QStringLiteral("txtUsrPwd"));
     txtUsrPwd_->setEchoMode(QLineEdit::Password);
     const QString captions[] = {QStringLiteral("添加"), QStringLiteral("修改"), QStringLiteral("删除"),
                                 QStringLiteral("保存"), QStringLiteral("取消")};

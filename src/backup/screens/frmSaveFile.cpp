@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFormLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QStorageInfo>
 
@@ -19,6 +18,7 @@
 #include "ui/guard.h"
 #include "ui/screen_memory.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 
 namespace kalvane {
 namespace {
@@ -52,10 +52,9 @@ frmSaveFile::frmSaveFile(QWidget* parent)
     : Screen(QStringLiteral("frmSaveFile"), QStringLiteral("备份文件"), parent),
       Drive1_(new QComboBox(this)),
       Dir1_(new FolderTree(QStringLiteral("Dir1"), this)),
-      TxtFileName_(new QLineEdit(this)),
+      TxtFileName_(MakeBox(QStringLiteral("TxtFileName"), this)),
       progress_(new CopyProgress(this)) {
     Drive1_->setObjectName(QStringLiteral("Drive1"));
-    TxtFileName_->setObjectName(QStringLiteral("TxtFileName"));
     TxtFileName_->setPlaceholderText(QStringLiteral("没有扩展名时自动加上 .MBK"));
     auto* path = new QLabel(this);
     path->setObjectName(QStringLiteral("lblPath"));

@@ -1,11 +1,11 @@
 #include "drawing/screens/frmInput.h"
 
 #include <QFormLayout>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include "ui/command_buttons.h"
 #include "ui/guard.h"
+#include "ui/text_box.h"
 
 namespace kalvane {
 namespace {
@@ -14,10 +14,9 @@ constexpr int kLongest = 50;  // what the library holds
 }  // namespace
 
 frmInput::frmInput(QWidget* parent)
-    : Screen(QStringLiteral("frmInput"), QStringLiteral("输入文字"), parent), text1_(new QLineEdit(this)) {
+    : Screen(QStringLiteral("frmInput"), QStringLiteral("输入文字"), parent),
+      text1_(MakeBox(QStringLiteral("Text1"), this, kBoxWidth)) {
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
-    text1_->setObjectName(QStringLiteral("Text1"));
-    text1_->setMinimumWidth(kBoxWidth);
     text1_->setMaxLength(kLongest);
     auto* fields = new QFormLayout;
     fields->addRow(QStringLiteral("输入文字："), text1_);

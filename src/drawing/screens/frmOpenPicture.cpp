@@ -2,7 +2,6 @@
 
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <memory>
@@ -17,6 +16,7 @@
 #include "ui/picture_box.h"
 #include "ui/report_list.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 
 namespace kalvane {
 namespace {
@@ -30,10 +30,9 @@ const QString kTitle = QStringLiteral("提示");
 frmOpenPicture::frmOpenPicture(QWidget* parent)
     : Screen(QStringLiteral("frmOpenPicture"), QStringLiteral("打开门窗图"), parent),
       lvw_(new ReportList(QStringLiteral("lvw"), {QStringLiteral("图名"), QStringLiteral("编号")}, this)),
-      txtCBN_(new QLineEdit(this)),
+      txtCBN_(MakeBox(QStringLiteral("txtCBN"), this)),
       picture_(new PictureBox(QStringLiteral("PicMC"), this)),
       notice_(this) {
-    txtCBN_->setObjectName(QStringLiteral("txtCBN"));
     txtCBN_->setReadOnly(true);
     lvw_->setMinimumWidth(kListWidth);
     QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定"), this, QStringLiteral("Enter 或双击"));

@@ -2,7 +2,6 @@
 
 #include <QFormLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include "app/app_state.h"
@@ -12,6 +11,7 @@
 #include "ui/dialogs.h"
 #include "ui/guard.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 
 namespace kalvane {
 namespace {
@@ -23,13 +23,10 @@ const QString kTitle = QStringLiteral("提示");
 
 frmSavePicEX::frmSavePicEX(QWidget* parent)
     : EntryScreen(QStringLiteral("frmSavePicEX"), QStringLiteral("保存文件名"), parent),
-      name_(new QLineEdit(this)),
-      number_(new QLineEdit(this)) {
+      name_(MakeBox(QStringLiteral("Text1"), this, kBoxWidth)),
+      number_(MakeBox(QStringLiteral("Text2"), this)) {
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
-    name_->setObjectName(QStringLiteral("Text1"));
-    name_->setMinimumWidth(kBoxWidth);
     name_->setMaxLength(kLongestName);
-    number_->setObjectName(QStringLiteral("Text2"));
     auto* label1 = new QLabel(QStringLiteral("文件名："), this);
     label1->setObjectName(QStringLiteral("Label1"));
     auto* label2 = new QLabel(QStringLiteral("图形编号："), this);

@@ -5,7 +5,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QShortcut>
@@ -26,6 +25,7 @@
 #include "ui/message_notice.h"
 #include "ui/report_list.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 
 namespace kalvane {
 namespace {
@@ -35,12 +35,6 @@ constexpr int kNumberWidth = 110;
 const QString kPrompt = QStringLiteral("提示");
 const QString kFolderPurpose = QStringLiteral("demand");
 const QString kFileFilter = QStringLiteral("化数据文件*.DDD|*.DDD");
-
-QLineEdit* MakeBox(const char* name, QWidget* screen) {
-    auto* box = new QLineEdit(screen);
-    box->setObjectName(QLatin1String(name));
-    return box;
-}
 
 QString Now() {
     return QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
@@ -56,9 +50,9 @@ bool IsTable(const QString& text) {
 frmHandup::frmHandup(QWidget* parent)
     : EntryScreen(QStringLiteral("frmHandup"),
                   QStringLiteral("手工优化  控制结点数：%1").arg(App().optimise.NODES), parent),
-      txtName_(MakeBox("TxtName", this)),
-      txtCD_(MakeBox("TxtCD", this)),
-      txtSL_(MakeBox("TxtSL", this)),
+      txtName_(MakeBox(QStringLiteral("TxtName"), this)),
+      txtCD_(MakeBox(QStringLiteral("TxtCD"), this)),
+      txtSL_(MakeBox(QStringLiteral("TxtSL"), this)),
       cmdAdd_(MakeButton("CmdAdd", QStringLiteral("添加 &A"), this)),
       lvw_(new ReportList(QStringLiteral("lvw"), {QStringLiteral("长度"), QStringLiteral("数量")}, this)),
       total_(new QLabel(this)),
@@ -222,7 +216,7 @@ void frmHandup::Run() {
     }
     label4_->setText(QStringLiteral("稍候优化正在进行中......"));
     label4_->show();
-    const std::unique_ptr<QLabel, void (*)(QLabel*)> shown(label4_, [](QLabel* label) { label->hide(); });
+    std::unique_ptr<QLabel, void (*)(QLabel*)> shown(label4_, [](QLabel* label) { label->hide(); });
     const QString start = QStringLiteral("起始时间：") + Now();
     statusBar_->showMessage(start);
     MessageNotice notice(this);
@@ -237,7 +231,7 @@ void frmHandup::Run() {
             return QStringLiteral("已排 %1 / %2 件").arg(stage.placed).arg(stage.pieces);
         });
     statusBar_->showMessage(start + QStringLiteral(" 结束时间：") + Now());
-    label4_->hide();
+    shown.reset();
     frmResult(this).exec();
 }
 

@@ -2,7 +2,6 @@
 
 #include <QFormLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -14,6 +13,7 @@
 #include "ui/guard.h"
 #include "ui/message_notice.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 
 namespace kalvane {
 namespace {
@@ -29,9 +29,8 @@ frmOption::frmOption(QWidget* parent)
     AddBox(*fields, OptionField::LTC, "TxtLTC", QStringLiteral("料头长度（mm）："));
     AddBox(*fields, OptionField::CKK, "TxtCKK", QStringLiteral("切口宽度（mm）："));
     AddBox(*fields, OptionField::COUNT, "TxtCount", QStringLiteral("允许优化材料数量："));
-    auto* mostPieces = new QLineEdit(QString::number(kMostPieces), this);
-    mostPieces->setObjectName(QStringLiteral("TxtMaxCount"));
-    mostPieces->setMinimumWidth(kBoxWidth);
+    QLineEdit* mostPieces = MakeBox(QStringLiteral("TxtMaxCount"), this, kBoxWidth);
+    mostPieces->setText(QString::number(kMostPieces));
     mostPieces->setEnabled(false);
     fields->addRow(QStringLiteral("最大可优化数量："), mostPieces);
     AddBox(*fields, OptionField::YHBL, "TxtYHBL", QStringLiteral("控制优化比率:"));
@@ -56,9 +55,7 @@ frmOption::frmOption(QWidget* parent)
 }
 
 void frmOption::AddBox(QFormLayout& fields, OptionField field, const char* name, const QString& label) {
-    auto* box = new QLineEdit(this);
-    box->setObjectName(QLatin1String(name));
-    box->setMinimumWidth(kBoxWidth);
+    QLineEdit* box = MakeBox(QLatin1String(name), this, kBoxWidth);
     box->setValidator(new DigitFilter(box));
     fields.addRow(label, box);
     boxes_[static_cast<std::size_t>(field)] = box;

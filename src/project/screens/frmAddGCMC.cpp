@@ -4,7 +4,6 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSplitter>
 #include <QStyle>
@@ -21,6 +20,7 @@
 #include "ui/picture_box.h"
 #include "ui/report_list.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 #include "ui/window_picture.h"
 
 namespace kalvane {
@@ -52,7 +52,7 @@ frmAddGCMC::frmAddGCMC(QWidget* parent)
           QStringLiteral("LvwBZ"),
           {QStringLiteral("标注"), QStringLiteral("数值"), QStringLiteral("X"), QStringLiteral("Y")}, this)),
       lblBZ_(new QLabel(this)),
-      txtBZ_(new QLineEdit(this)),
+      txtBZ_(MakeBox(QStringLiteral("TxtBZ"), this)),
       change_(MakeButton("CmdChange", QStringLiteral("更改标注 &B"), this)),
       add_(MakeButton("cmdAdd", QStringLiteral("添    加 [&A]"), this)),
       exit_(MakeButton("Command2", QStringLiteral("退    出 [&E]"), this)),
@@ -90,8 +90,7 @@ QLayout* frmAddGCMC::MakeBoxes() {
                                 QStringLiteral("樘    数："),   QStringLiteral("说    明：")};
     auto* grid = new QGridLayout;
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        auto* box = new QLineEdit(this);
-        box->setObjectName(QStringLiteral("Text1(%1)").arg(i));
+        QLineEdit* box = MakeBox(QStringLiteral("Text1(%1)").arg(i), this);
         const int row = static_cast<int>(i) / 2;
         const int column = static_cast<int>(i) % 2 * 2;
         grid->addWidget(new QLabel(captions[i], this), row, column);
@@ -106,7 +105,6 @@ QWidget* frmAddGCMC::MakeLabelPane() {
     auto* pane = new QWidget(this);
     lvwBZ_->setToolTip(QStringLiteral("图中的标注及其数值"));
     lblBZ_->setObjectName(QStringLiteral("LblBZ"));
-    txtBZ_->setObjectName(QStringLiteral("TxtBZ"));
     txtBZ_->setToolTip(QStringLiteral("Enter 更改并转到下一个标注；↑ ↓ 选择标注"));
     txtBZ_->installEventFilter(this);
     change_->setEnabled(false);

@@ -1,13 +1,13 @@
 #include "project/screens/frmInputGC.h"
 
 #include <QFormLayout>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include "store/field_slots.h"
 #include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 
 namespace kalvane {
 namespace {
@@ -22,9 +22,7 @@ frmInputGC::frmInputGC(const QString& title, QWidget* parent)
     const QString captions[] = {QStringLiteral("工程名称："), QStringLiteral("工程地点："),
                                 QStringLiteral("甲方单位："), QStringLiteral("合同编号：")};
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        boxes_[i] = new QLineEdit(this);
-        boxes_[i]->setObjectName(QStringLiteral("Text1(%1)").arg(i));
-        boxes_[i]->setMinimumWidth(kBoxWidth);
+        boxes_[i] = MakeBox(QStringLiteral("Text1(%1)").arg(i), this, kBoxWidth);
         fields->addRow(captions[i], boxes_[i]);
     }
     QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定 &Y"), this);
