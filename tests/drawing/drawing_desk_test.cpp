@@ -174,6 +174,8 @@ TEST_F(DrawingDeskTest, TheLibrarysDrawingsAreAddedAndSavedUnderTheirNumber) {
     desk_.Undo();  // the number stays: saving came in between
     EXPECT_TRUE(desk_.HasPlace(*store_));
     EXPECT_EQ(t_.title, "文件->新");
+    store_->Execute("Delete from 图 where 编号=8");
+    EXPECT_FALSE(desk_.HasPlace(*store_)) << "a save would leave parts that no drawing owns";
 }
 
 TEST_F(DrawingDeskTest, FilesTakeTheDrawingsPlaceAndKeepWhatTheyCannotHold) {

@@ -207,6 +207,19 @@ TEST_F(ProjectFlow, TypeWithoutDrawingKeepsNoLabelsOfTheTypeBefore) {
     tree->setCurrentItem(tree->findItems(QStringLiteral("无图"), Qt::MatchRecursive).value(0));
     EXPECT_EQ(labels->RowCount(), 0);
     EXPECT_EQ(dialogs_.shown.filter(QStringLiteral("还没有图")).size(), 1);
+    add.close();
+
+    // A window of such a type can still be changed: its labels are its own.
+    frmOpenGC* opened = OpenSample();
+    Find<ReportList>(opened, "Lvw")->SelectRow(1);  // C2
+    ModalScript()
+        .On("frmAddGCMC",
+            [](QDialog& edit) {
+                TypeThrough(edit, "1650");
+                Press(edit, "cmdAdd");
+            })
+        .Run([&] { Press(*opened, "CmdEdit"); });
+    EXPECT_EQ(Rows("Select MC,schar from 标注 where Mcnum=2"), "B|1650\nH|1200\nb1|750\nb2|750");
 }
 
 }  // namespace kalvane::test
