@@ -35,7 +35,7 @@ void PaintFullDrawing(benchmark::State& state) {
 }
 BENCHMARK(PaintFullDrawing)->Unit(benchmark::kMillisecond);
 
-/// The same strokes and texts, known beforehand, as one call each and none of them smoothed.
+/// The same strokes and texts, known beforehand, as one call each in the same font, and no stroke smoothed.
 void PaintSamePrimitivesBare(benchmark::State& state) {
     bench::SilentNotice notice;
     QImage image = WhiteImage();
@@ -51,9 +51,13 @@ void PaintSamePrimitivesBare(benchmark::State& state) {
     for (const ShapeRecord::Text& text : record.Texts()) {
         texts.emplace_back(QPointF(text.at.x, text.at.y) * kUnitsPerTwip, ToQt(text.text));
     }
+    QFont font(QStringLiteral("Noto Sans CJK SC"));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setPointSizeF(9 * 20 * kUnitsPerTwip * 72 / image.logicalDpiY());
     for (auto _ : state) {
         QPainter painter(&image);
         painter.setPen(QPen(Qt::black, 1, Qt::SolidLine, Qt::SquareCap));
+        painter.setFont(font);
         for (const QLineF& line : lines) painter.drawLine(line);
         for (const auto& [at, text] : texts) painter.drawText(at, text);
     }

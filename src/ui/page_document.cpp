@@ -94,10 +94,12 @@ void PageDocument::PaintPage(int page, QPainter& painter, double unitsPerTwip,
     // Strokes on a screen rely on whole pixels.
     if (medium == PainterTarget::Medium::Screen) corner = corner.toPoint();
     painter.translate(corner);
-    PainterTarget target(painter, unitsPerTwip, medium);
-    const Replay replay{target};
-    for (const PageCommand& command : record_.Pages()[static_cast<std::size_t>(page)]) {
-        std::visit(replay, command);
+    {
+        PainterTarget target(painter, unitsPerTwip, medium);
+        const Replay replay{target};
+        for (const PageCommand& command : record_.Pages()[static_cast<std::size_t>(page)]) {
+            std::visit(replay, command);
+        }
     }
     painter.restore();
 }

@@ -16,7 +16,11 @@ constexpr double kFontPoints = 9;
 
 /// Smoothing takes three times as long. No drawing that is made for people to read has so many slanted
 /// strokes, and one that has is to be painted without a wait.
-constexpr int kMostSmoothed = 500;
+constexpr std::size_t kMostSmoothed = 500;
+
+QPointF PixelCentre(QPointF p) {
+    return {std::floor(p.x()) + 0.5, std::floor(p.y()) + 0.5};
+}
 
 /// A font that holds all Chinese characters, where it is installed.
 QFont TextFont() {
@@ -39,6 +43,10 @@ PainterTarget::PainterTarget(QPainter& painter, double unitsPerTwip, Medium medi
     painter_.setRenderHint(QPainter::Antialiasing);
 }
 
+PainterTarget::~PainterTarget() {
+    PaintStrokes();
+}
+
 void PainterTarget::SetFontPoints(double points) {
     // The font's own points are those of the device's resolution, ours those of the scale.
     const double units = points * kTwipsPerPoint * unitsPerTwip_;
@@ -56,7 +64,10 @@ void PainterTarget::Measure() {
 }
 
 void PainterTarget::SetDashed(bool dashed) {
-    strokePen_.setStyle(dashed ? Qt::DashLine : Qt::SolidLine);
+    const Qt::PenStyle style = dashed ? Qt::DashLine : Qt::SolidLine;
+    if (strokePen_.style() == style) return;
+    PaintStrokes();
+    strokePen_.setStyle(style);
 }
 
 /// A change of pen takes as long as a short stroke.
@@ -67,34 +78,39 @@ void PainterTarget::UsePen(const QPen& pen) {
 void PainterTarget::DrawLine(float x1, float y1, float x2, float y2) {
     const QPointF from(x1 * unitsPerTwip_, y1 * unitsPerTwip_);
     const QPointF to(x2 * unitsPerTwip_, y2 * unitsPerTwip_);
-    UsePen(strokePen_);
-    if (medium_ == Medium::Screen) {
-        DrawOnPixels(from, to);
-    } else {
+    if (medium_ == Medium::Paper) {
+        UsePen(strokePen_);
         painter_.drawLine(from, to);
+        return;
     }
+    const QLineF line(PixelCentre(from), PixelCentre(to));
+    (line.dx() == 0 || line.dy() == 0 ? straight_ : slanted_).push_back(line);
+}
+
+void PainterTarget::PaintStrokes() {
+    const auto paint = [this](std::vector<QLineF>& lines, bool smooth) {
+        if (lines.empty()) return;
+        UsePen(strokePen_);
+        painter_.setRenderHint(QPainter::Antialiasing, smooth);
+        painter_.drawLines(lines.data(), static_cast<int>(lines.size()));
+        lines.clear();
+    };
+    slantedPainted_ += slanted_.size();
+    paint(straight_, false);
+    paint(slanted_, slantedPainted_ <= kMostSmoothed);
 }
 
 void PainterTarget::FillBox(const Box& box, const QColor& colour) {
     const QRectF area(QPointF(box.x1 * unitsPerTwip_, box.y1 * unitsPerTwip_),
                       QPointF(box.x2 * unitsPerTwip_, box.y2 * unitsPerTwip_));
+    PaintStrokes();
+    // On a screen whole pixels, whatever came before.
+    if (medium_ == Medium::Screen) painter_.setRenderHint(QPainter::Antialiasing, false);
     painter_.fillRect(area.normalized(), colour);
 }
 
-void PainterTarget::DrawOnPixels(QPointF from, QPointF to) {
-    const auto pixelCentre = [](QPointF p) {
-        return QPointF(std::floor(p.x()) + 0.5, std::floor(p.y()) + 0.5);
-    };
-    const QLineF line(pixelCentre(from), pixelCentre(to));
-    const bool smooth = line.dx() != 0 && line.dy() != 0 && smoothed_ < kMostSmoothed;
-    if (smooth) ++smoothed_;
-    if (painter_.testRenderHint(QPainter::Antialiasing) != smooth) {
-        painter_.setRenderHint(QPainter::Antialiasing, smooth);
-    }
-    painter_.drawLine(line);
-}
-
 void PainterTarget::DrawText(float x, float y, std::string_view text) {
+    PaintStrokes();
     if (painter_.font() != font_) painter_.setFont(font_);
     UsePen(textColour_);
     painter_.drawText(QPointF(x * unitsPerTwip_, y * unitsPerTwip_ + metrics_.ascent()), ToQt(text));

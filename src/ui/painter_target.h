@@ -3,7 +3,9 @@
 #include <QColor>
 #include <QFont>
 #include <QFontMetricsF>
+#include <QLineF>
 #include <QPen>
+#include <vector>
 
 #include "drawing/paint_target.h"
 
@@ -15,7 +17,9 @@ namespace kalvane {
 inline constexpr int kTwipsPerPixel = 15;
 
 /// Paint target over a painter: one paint path for the screen, images, the printer and PDF. The painter's
-/// own translation sets the origin; the painter must outlive the target.
+/// own translation sets the origin. On a screen strokes are collected, which is much faster than to paint
+/// them one by one: they reach the painter before the next text or box and when the target ends. Until then
+/// the painter must live and keep its state.
 class PainterTarget : public PaintTarget {
   public:
     enum class Medium {
@@ -25,6 +29,9 @@ class PainterTarget : public PaintTarget {
 
     /// `unitsPerTwip` is the device's scale; texts follow it, whatever resolution the device claims.
     PainterTarget(QPainter& painter, double unitsPerTwip, Medium medium);
+    PainterTarget(const PainterTarget&) = delete;
+    PainterTarget& operator=(const PainterTarget&) = delete;
+    ~PainterTarget();
 
     void DrawLine(float x1, float y1, float x2, float y2) override;
     void DrawText(float x, float y, std::string_view text) override;
@@ -48,7 +55,7 @@ class PainterTarget : public PaintTarget {
   private:
     void Measure();
     void UsePen(const QPen& pen);
-    void DrawOnPixels(QPointF from, QPointF to);
+    void PaintStrokes();
 
     QPainter& painter_;
     double unitsPerTwip_;
@@ -57,7 +64,9 @@ class PainterTarget : public PaintTarget {
     QFontMetricsF metrics_;  ///< of the font on the device
     QColor textColour_ = Qt::black;
     QPen strokePen_;
-    int smoothed_ = 0;  ///< strokes so far
+    std::vector<QLineF> straight_;  ///< strokes along an axis that are still to be painted
+    std::vector<QLineF> slanted_;   ///< the others
+    std::size_t slantedPainted_ = 0;
 };
 
 }  // namespace kalvane

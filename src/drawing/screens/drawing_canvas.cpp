@@ -157,35 +157,38 @@ void DrawingCanvas::BringPixelsUp() {
 
 DrawingCanvas::Painted DrawingCanvas::Paint(QPainter& painter, const ShapeRecord& record,
                                             Painted from) const {
-    const double scale = Scale();
     painter.translate(origin_);
-    PainterTarget target(painter, scale, PainterTarget::Medium::Screen);
+    PaintDots(painter, record, from.dots);
+    PaintShapes(painter, record, from);
+    painter.resetTransform();
+    return {record.Strokes().size(), record.Texts().size(), record.Dots().size()};
+}
 
+void DrawingCanvas::PaintDots(QPainter& painter, const ShapeRecord& record, std::size_t from) const {
     const std::vector<Point>& dots = record.Dots();
-    if (from.dots < dots.size()) {
-        QPolygon pixels;
-        pixels.reserve(static_cast<int>(dots.size() - from.dots));
-        for (; from.dots < dots.size(); ++from.dots) {
-            const Point& dot = dots[from.dots];
-            pixels << QPoint(static_cast<int>(std::floor(dot.x * scale)),
-                             static_cast<int>(std::floor(dot.y * scale)));
-        }
-        painter.setPen(Qt::black);
-        painter.drawPoints(pixels);
+    if (from == dots.size()) return;
+    const double scale = Scale();
+    QPolygon pixels;
+    pixels.reserve(static_cast<int>(dots.size() - from));
+    for (; from < dots.size(); ++from) {
+        pixels << QPoint(static_cast<int>(std::floor(dots[from].x * scale)),
+                         static_cast<int>(std::floor(dots[from].y * scale)));
     }
+    painter.setPen(Qt::black);
+    painter.drawPoints(pixels);
+}
+
+void DrawingCanvas::PaintShapes(QPainter& painter, const ShapeRecord& record, const Painted& from) const {
+    PainterTarget target(painter, Scale(), PainterTarget::Medium::Screen);
     const std::vector<ShapeRecord::Stroke>& strokes = record.Strokes();
-    for (; from.strokes < strokes.size(); ++from.strokes) {
-        const ShapeRecord::Stroke& stroke = strokes[from.strokes];
-        target.SetDashed(stroke.dashed);
-        target.DrawLine(stroke.from.x, stroke.from.y, stroke.to.x, stroke.to.y);
+    for (std::size_t i = from.strokes; i < strokes.size(); ++i) {
+        target.SetDashed(strokes[i].dashed);
+        target.DrawLine(strokes[i].from.x, strokes[i].from.y, strokes[i].to.x, strokes[i].to.y);
     }
     const std::vector<ShapeRecord::Text>& texts = record.Texts();
-    for (; from.texts < texts.size(); ++from.texts) {
-        const ShapeRecord::Text& text = texts[from.texts];
-        target.DrawText(text.at.x, text.at.y, text.text);
+    for (std::size_t i = from.texts; i < texts.size(); ++i) {
+        target.DrawText(texts[i].at.x, texts[i].at.y, texts[i].text);
     }
-    painter.resetTransform();
-    return from;
 }
 
 void DrawingCanvas::paintEvent(QPaintEvent*) {

@@ -72,6 +72,8 @@ class DrawingCanvas final : public QWidget, public Canvas {
     void PlaceCrossHair();
     void BringPixelsUp();
     Painted Paint(QPainter& painter, const ShapeRecord& record, Painted from) const;
+    void PaintDots(QPainter& painter, const ShapeRecord& record, std::size_t from) const;
+    void PaintShapes(QPainter& painter, const ShapeRecord& record, const Painted& from) const;
 
     ShapeRecord persistent_;
     ShapeRecord transient_;
