@@ -26,7 +26,8 @@ class RestoreMarker {
     void Remove() const {
         std::error_code failure;
         std::filesystem::remove(file_, failure);
-        if (failure) throw FileError("文件“" + file_.string() + "”不能删除：" + SystemReason(failure.value()) + "。");
+        if (failure)
+            throw FileError("文件“" + file_.string() + "”不能删除：" + SystemReason(failure.value()) + "。");
     }
 
   private:
