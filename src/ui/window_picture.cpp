@@ -33,14 +33,16 @@ QImage WindowPictureImage(const MCPicture& picture, std::span<const WindowLabel>
                          std::min(size.width() / double{kFrameWidth}, size.height() / double{kFrameHeight});
     const double width = share * kFrameWidth;
     const double height = share * kFrameHeight;
-    QPainter painter(&image);
-    // Whole pixels, on which the strokes of a screen rely.
-    painter.translate(std::floor((size.width() - width) / 2), std::floor((size.height() - height) / 2));
-    PainterTarget target(painter, unitsPerTwip, PainterTarget::Medium::Screen);
-    const Box frame{0, 0, static_cast<float>(width / unitsPerTwip),
-                    static_cast<float>(height / unitsPerTwip)};
-    picture.OutMCNoStr(target, frame);
-    PaintLabelValues(target, labels, frame);
+    {
+        QPainter painter(&image);
+        // Whole pixels, on which the strokes of a screen rely.
+        painter.translate(std::floor((size.width() - width) / 2), std::floor((size.height() - height) / 2));
+        PainterTarget target(painter, unitsPerTwip, PainterTarget::Medium::Screen);
+        const Box frame{0, 0, static_cast<float>(width / unitsPerTwip),
+                        static_cast<float>(height / unitsPerTwip)};
+        picture.OutMCNoStr(target, frame);
+        PaintLabelValues(target, labels, frame);
+    }
     return image;
 }
 
