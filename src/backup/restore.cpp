@@ -26,8 +26,7 @@ class RestoreMarker {
     void Remove() const {
         std::error_code failure;
         std::filesystem::remove(file_, failure);
-        if (failure)
-            throw FileError("文件“" + file_.string() + "”不能删除：" + SystemReason(failure.value()) + "。");
+        if (failure) FailOnFile(file_, "删除", failure.value());
     }
 
   private:

@@ -21,7 +21,7 @@ void WriteAll(int descriptor, std::string_view bytes, const std::filesystem::pat
         const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
         if (written < 0) {
             if (errno == EINTR) continue;
-            FailWriting(path, errno);
+            FailOnFile(path, "写入", errno);
         }
         bytes.remove_prefix(static_cast<std::size_t>(written));
     }
@@ -49,8 +49,8 @@ void RequirePlainFile(const std::filesystem::path& path, std::uintmax_t most) {
     }
 }
 
-void FailWriting(const std::filesystem::path& path, int code) {
-    throw FileError("文件“" + path.string() + "”不能写入：" + SystemReason(code) + "。");
+void FailOnFile(const std::filesystem::path& path, std::string_view act, int code) {
+    throw FileError("文件“" + path.string() + "”不能" + std::string(act) + "：" + SystemReason(code) + "。");
 }
 
 bool IsWritableFolder(const std::filesystem::path& folder) {
@@ -77,9 +77,9 @@ void WriteFileAtomically(const std::filesystem::path& path, std::string_view byt
     UnfinishedFile beside(path);
     {
         const Descriptor file(::open(beside.Path().c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-        if (file.Get() < 0) FailWriting(path, errno);
+        if (file.Get() < 0) FailOnFile(path, "写入", errno);
         WriteAll(file.Get(), bytes, path);
-        if (::fsync(file.Get()) != 0) FailWriting(path, errno);
+        if (::fsync(file.Get()) != 0) FailOnFile(path, "写入", errno);
     }
     beside.Finish();
 }

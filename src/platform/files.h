@@ -20,8 +20,9 @@ bool IsWritableFolder(const std::filesystem::path& folder);
 /// What an error number of the operating system means, for the operator, without a full stop.
 std::string SystemReason(int code);
 
-/// Throws the FileError of a file that cannot be written, for an error number of the operating system.
-[[noreturn]] void FailWriting(const std::filesystem::path& path, int code);
+/// Throws the FileError of a file on which an act ("写入", "改名") failed, for an error number of the
+/// operating system.
+[[noreturn]] void FailOnFile(const std::filesystem::path& path, std::string_view act, int code);
 
 /// Replaces a file's content as one step: the bytes go to a file beside it, are flushed to the disk and
 /// renamed into place. A failure throws FileError and leaves the old file as it was.

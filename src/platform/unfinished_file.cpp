@@ -36,7 +36,7 @@ void UnfinishedFile::Remove() const {
 }
 
 void UnfinishedFile::Finish() {
-    if (::rename(path_.c_str(), name_.c_str()) != 0) FailWriting(name_, errno);
+    if (::rename(path_.c_str(), name_.c_str()) != 0) FailOnFile(name_, "写入", errno);
     // The rename itself must survive a power cut; a folder that cannot be opened for it is no failure.
     const std::filesystem::path folder = name_.has_parent_path() ? name_.parent_path() : ".";
     const Descriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -49,7 +49,7 @@ void UnfinishedFile::FinishUnlessTaken() {
     if (failed != 0 && errno == EINVAL && !std::filesystem::exists(name_)) {
         failed = ::rename(path_.c_str(), name_.c_str());
     }
-    if (failed != 0 && errno != EEXIST) FailWriting(name_, errno);
+    if (failed != 0 && errno != EEXIST) FailOnFile(name_, "写入", errno);
 }
 
 }  // namespace kalvane
