@@ -28,9 +28,7 @@ std::int16_t ReadInt16(const SettingsStore& settings, std::string_view key, std:
 constexpr const char* kErrorTitle = "出错！";
 
 std::unique_ptr<Connection> OpenSound(const std::filesystem::path& file, StoreKind kind, bool check) {
-    if (!std::filesystem::exists(file) && !CopiesOf(file).empty()) {
-        throw StoreDamage("文件“" + file.filename().string() + "”不见了。");
-    }
+    if (IsLost(file)) throw StoreDamage("文件“" + file.filename().string() + "”不见了。");
     auto connection = std::make_unique<Connection>(file, kind);
     if (check) connection->CheckIntegrity();
     return connection;

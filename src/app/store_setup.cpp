@@ -24,7 +24,7 @@ void FillUsers(Connection& users) {
 /// Makes a store under a passing name, fills it, and gives it its own name only then.
 void CreateWhole(const std::filesystem::path& file, StoreKind kind,
                  const std::function<void(Connection&)>& fill) {
-    if (std::filesystem::exists(file) || !CopiesOf(file).empty()) return;
+    if (std::filesystem::exists(file) || IsLost(file)) return;
     // Two programs may find the folder empty at the same moment.
     UnfinishedFile unfinished(file);
     CreateStore(unfinished.Path(), kind);

@@ -17,6 +17,7 @@
 #include "platform/settings_store.h"
 #include "project/project_list.h"
 #include "project/project_windows.h"
+#include "store/dated_copies.h"
 #include "store/migration.h"
 #include "store/store_files.h"
 
@@ -39,7 +40,7 @@ class LockedStore {
         if (!lock_.Acquire()) throw StoreError("另一个程序正在使用这个文件夹，请先关闭它。");
         CreateMissingStores(folder);
         const std::filesystem::path file = folder / kMainStoreName;
-        if (!std::filesystem::exists(file)) {
+        if (IsLost(file)) {
             throw StoreError("数据库“" + file.filename().string() +
                              "”不见了，但有它的副本。请启动桌面程序，用副本恢复。");
         }

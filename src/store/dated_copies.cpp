@@ -75,8 +75,7 @@ void KeepAside(const Path& file, const Path& aside) {
     std::error_code failure;
     std::filesystem::create_hard_link(file, aside, failure);
     if (failure) std::filesystem::copy_file(file, aside, failure);
-    if (failure)
-        throw FileError("文件“" + file.string() + "”不能另存：" + SystemReason(failure.value()) + "。");
+    if (failure) FailOnFile(file, "另存", failure.value());
 }
 
 }  // namespace
@@ -105,6 +104,10 @@ std::vector<Path> CopiesOf(const Path& store) {
     return copies;
 }
 
+bool IsLost(const Path& store) {
+    return !std::filesystem::exists(store) && !CopiesOf(store).empty();
+}
+
 std::string TimeOfCopy(const Path& copy) {
     std::string text = StampOf(copy).substr(0, kTimeDigits);
     if (text.size() < kTimeDigits) return text;
@@ -125,9 +128,7 @@ void ReplaceByCopy(const Path& store, const Path& copy) {
         journalAside += "-journal";
         std::error_code failure;
         std::filesystem::rename(journal, journalAside, failure);
-        if (failure)
-            throw FileError("文件“" + journal.string() + "”不能改名：" + SystemReason(failure.value()) +
-                            "。");
+        if (failure) FailOnFile(journal, "改名", failure.value());
     }
     CopyStore(copy, store);
 }

@@ -20,6 +20,9 @@ void KeepDailyCopy(const std::filesystem::path& store);
 /// The copies of a store, newest first.
 std::vector<std::filesystem::path> CopiesOf(const std::filesystem::path& store);
 
+/// True for a store that is missing although there are copies of it.
+bool IsLost(const std::filesystem::path& store);
+
 /// When a copy was made, for the operator: "2025-11-25 10:15:30".
 std::string TimeOfCopy(const std::filesystem::path& copy);
 
