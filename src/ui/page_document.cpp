@@ -30,26 +30,18 @@ QSizeF SheetMillimetres(const PageSetup& setup) {
 class CanvasMeasure final : public TextMeasure {
   public:
     float Width(std::string_view text, PageFont font) const override {
-        Use(font);
+        target_.SetFont(font);
         return target_.TextWidth(text);
     }
     float Height(PageFont font) const override {
-        Use(font);
+        target_.SetFont(font);
         return target_.TextHeight({});
     }
 
   private:
-    void Use(PageFont font) const {
-        if (font == font_) return;
-        target_.SetFontPoints(font.points);
-        target_.SetBold(font.bold);
-        font_ = font;
-    }
-
     QImage canvas_{1, 1, QImage::Format_RGB32};
     mutable QPainter painter_{&canvas_};
     mutable PainterTarget target_{painter_, 1, PainterTarget::Medium::Paper};
-    mutable PageFont font_;
 };
 
 PageRecord Recorded(const PageSetup& setup, const PaintPages& paint) {
@@ -68,13 +60,10 @@ struct Replay {
 
     void operator()(const PageLine& line) const { target.DrawLine(line.x1, line.y1, line.x2, line.y2); }
     void operator()(const PageText& text) const {
-        target.SetFontPoints(text.font.points);
-        target.SetBold(text.font.bold);
+        target.SetFont(text.font);
         target.DrawText(text.x, text.y, text.text);
     }
-    void operator()(const PageFill& fill) const {
-        target.FillBox(fill.box, QColor(fill.colour.red, fill.colour.green, fill.colour.blue));
-    }
+    void operator()(const PageFill& fill) const { target.FillBox(fill.box, fill.colour); }
 };
 
 }  // namespace

@@ -12,7 +12,6 @@ namespace {
 
 constexpr double kTwipsPerPoint = 20;
 constexpr double kPaperStroke = 0.5 * kTwipsPerPoint;
-constexpr double kFontPoints = 9;
 
 /// Smoothing takes three times as long. No drawing that is made for people to read has so many slanted
 /// strokes, and one that has is to be painted without a wait.
@@ -36,7 +35,7 @@ QFont TextFont() {
 
 PainterTarget::PainterTarget(QPainter& painter, double unitsPerTwip, Medium medium)
     : painter_(painter), unitsPerTwip_(unitsPerTwip), medium_(medium), font_(TextFont()), metrics_(font_) {
-    SetFontPoints(kFontPoints);
+    UseFont();
     const bool onScreen = medium_ == Medium::Screen;
     strokePen_ = QPen(Qt::black, onScreen ? 1 : kPaperStroke * unitsPerTwip_, Qt::SolidLine,
                       onScreen ? Qt::SquareCap : Qt::RoundCap);
@@ -47,19 +46,17 @@ PainterTarget::~PainterTarget() {
     PaintStrokes();
 }
 
-void PainterTarget::SetFontPoints(double points) {
+void PainterTarget::SetFont(PageFont font) {
+    if (font == pageFont_) return;
+    pageFont_ = font;
+    UseFont();
+}
+
+void PainterTarget::UseFont() {
     // The font's own points are those of the device's resolution, ours those of the scale.
-    const double units = points * kTwipsPerPoint * unitsPerTwip_;
+    const double units = pageFont_.points * kTwipsPerPoint * unitsPerTwip_;
     font_.setPointSizeF(units * 72 / painter_.device()->logicalDpiY());
-    Measure();
-}
-
-void PainterTarget::SetBold(bool bold) {
-    font_.setBold(bold);
-    Measure();
-}
-
-void PainterTarget::Measure() {
+    font_.setBold(pageFont_.bold);
     metrics_ = QFontMetricsF(font_, painter_.device());
 }
 
@@ -100,13 +97,13 @@ void PainterTarget::PaintStrokes() {
     paint(slanted_, slantedPainted_ <= kMostSmoothed);
 }
 
-void PainterTarget::FillBox(const Box& box, const QColor& colour) {
+void PainterTarget::FillBox(const Box& box, PageColour colour) {
     const QRectF area(QPointF(box.x1 * unitsPerTwip_, box.y1 * unitsPerTwip_),
                       QPointF(box.x2 * unitsPerTwip_, box.y2 * unitsPerTwip_));
     PaintStrokes();
     // On a screen whole pixels, whatever came before.
     if (medium_ == Medium::Screen) painter_.setRenderHint(QPainter::Antialiasing, false);
-    painter_.fillRect(area.normalized(), colour);
+    painter_.fillRect(area.normalized(), QColor(colour.red, colour.green, colour.blue));
 }
 
 void PainterTarget::DrawText(float x, float y, std::string_view text) {

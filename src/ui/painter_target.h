@@ -7,7 +7,7 @@
 #include <QPen>
 #include <vector>
 
-#include "drawing/paint_target.h"
+#include "drawing/page_target.h"
 
 class QPainter;
 
@@ -36,32 +36,31 @@ class PainterTarget : public PaintTarget {
     void DrawLine(float x1, float y1, float x2, float y2) override;
     void DrawText(float x, float y, std::string_view text) override;
     float TextHeight(std::string_view text) const override;
-    void FillBox(const Box& box, const QColor& colour);
+    void FillBox(const Box& box, PageColour colour);
     /// Does nothing: it paints one picture, or one page of a PageDocument.
     void NewPage() override {}
 
     /// Width of a text in twips.
     float TextWidth(std::string_view text) const;
 
-    /// Font size of the texts from here on; 9 points at first.
-    void SetFontPoints(double points);
-    /// Weight of the texts from here on.
-    void SetBold(bool bold);
+    /// Font of the texts from here on; 9 points at first.
+    void SetFont(PageFont font);
     /// Style of the strokes from here on; solid at first.
     void SetDashed(bool dashed);
     /// Colour of the texts from here on; black at first.
     void SetTextColour(const QColor& colour) { textColour_ = colour; }
 
   private:
-    void Measure();
+    void UseFont();
     void UsePen(const QPen& pen);
     void PaintStrokes();
 
     QPainter& painter_;
     double unitsPerTwip_;
     Medium medium_;
-    QFont font_;
-    QFontMetricsF metrics_;  ///< of the font on the device
+    PageFont pageFont_;
+    QFont font_;             ///< the same on the device
+    QFontMetricsF metrics_;  ///< of font_
     QColor textColour_ = Qt::black;
     QPen strokePen_;
     std::vector<QLineF> straight_;  ///< strokes along an axis that are still to be painted

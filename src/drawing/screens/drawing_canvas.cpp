@@ -156,7 +156,7 @@ void DrawingCanvas::BringPixelsUp() {
 }
 
 DrawingCanvas::Painted DrawingCanvas::Paint(QPainter& painter, const ShapeRecord& record,
-                                            Painted from) const {
+                                            const Painted& from) const {
     painter.translate(origin_);
     PaintDots(painter, record, from.dots);
     PaintShapes(painter, record, from);

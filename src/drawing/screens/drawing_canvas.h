@@ -71,7 +71,7 @@ class DrawingCanvas final : public QWidget, public Canvas {
     void SetOrigin(QPointF origin);
     void PlaceCrossHair();
     void BringPixelsUp();
-    Painted Paint(QPainter& painter, const ShapeRecord& record, Painted from) const;
+    Painted Paint(QPainter& painter, const ShapeRecord& record, const Painted& from) const;
     void PaintDots(QPainter& painter, const ShapeRecord& record, std::size_t from) const;
     void PaintShapes(QPainter& painter, const ShapeRecord& record, const Painted& from) const;
 

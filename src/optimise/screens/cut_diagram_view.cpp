@@ -22,17 +22,12 @@ class CanvasPage final : public PageTarget {
 
     float Width() const override { return static_cast<float>(width_ * kTwipsPerPixel); }
     float Height() const override { return static_cast<float>(height_ * kTwipsPerPixel); }
-    void SetFont(PageFont font) override {
-        target_.SetFontPoints(font.points);
-        target_.SetBold(font.bold);
-    }
+    void SetFont(PageFont font) override { target_.SetFont(font); }
     float TextWidth(std::string_view text) const override { return target_.TextWidth(text); }
     float TextHeight(std::string_view text) const override { return target_.TextHeight(text); }
     void DrawLine(float x1, float y1, float x2, float y2) override { target_.DrawLine(x1, y1, x2, y2); }
     void DrawText(float x, float y, std::string_view text) override { target_.DrawText(x, y, text); }
-    void FillBox(const Box& box, PageColour colour) override {
-        target_.FillBox(box, QColor(colour.red, colour.green, colour.blue));
-    }
+    void FillBox(const Box& box, PageColour colour) override { target_.FillBox(box, colour); }
     void NewPage() override {}
     void EndDocument() override {}
 
