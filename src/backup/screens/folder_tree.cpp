@@ -5,6 +5,11 @@
 
 namespace kalvane {
 
+bool IsWithin(const QString& upper, const QString& folder) {
+    return folder == upper ||
+           folder.startsWith(upper.endsWith(QLatin1Char('/')) ? upper : upper + QLatin1Char('/'));
+}
+
 FolderTree::FolderTree(const QString& name, QWidget* parent)
     : QTreeView(parent), model_(new QFileSystemModel(this)) {
     setObjectName(name);
@@ -15,7 +20,7 @@ FolderTree::FolderTree(const QString& name, QWidget* parent)
     for (int column = 1; column < model_->columnCount(); ++column) hideColumn(column);
     // Folders are read as they come into sight and sorted right after; the chosen one moves meanwhile.
     connect(model_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
-        if (Folder().startsWith(loaded)) QTimer::singleShot(0, this, [this] { ShowChosen(); });
+        if (IsWithin(loaded, Folder())) QTimer::singleShot(0, this, [this] { ShowChosen(); });
     });
 }
 

@@ -6,6 +6,9 @@ class QFileSystemModel;
 
 namespace kalvane {
 
+/// True when a folder is `upper` or stands somewhere below it.
+bool IsWithin(const QString& upper, const QString& folder);
+
 /// The folders of this computer as a tree, one of them chosen.
 class FolderTree : public QTreeView {
     Q_OBJECT

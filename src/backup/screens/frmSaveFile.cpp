@@ -37,11 +37,6 @@ QString RememberedFolderKey() {
     return frmSaveFile::Purpose() + QStringLiteral(".folder");
 }
 
-bool Contains(const QString& drive, const QString& folder) {
-    return folder == drive ||
-           folder.startsWith(drive.endsWith(QLatin1Char('/')) ? drive : drive + QLatin1Char('/'));
-}
-
 }  // namespace
 
 QString frmSaveFile::Purpose() {
@@ -108,7 +103,7 @@ void frmSaveFile::ShowDriveOf(const QString& folder) {
     for (int i = 0; i < Drive1_->count(); ++i) {
         const QString drive = Drive1_->itemData(i).toString();
         const bool isLonger = best < 0 || drive.size() > Drive1_->itemData(best).toString().size();
-        if (Contains(drive, folder) && isLonger) best = i;
+        if (IsWithin(drive, folder) && isLonger) best = i;
     }
     Drive1_->setCurrentIndex(best);
 }
