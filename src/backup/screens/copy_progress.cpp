@@ -2,22 +2,9 @@
 
 #include <QApplication>
 
+#include "ui/shown.h"
+
 namespace kalvane {
-namespace {
-
-/// Hides the bar again, also after a failure.
-class Shown {
-  public:
-    explicit Shown(QWidget* bar) : bar_(bar) { bar_->show(); }
-    Shown(const Shown&) = delete;
-    Shown& operator=(const Shown&) = delete;
-    ~Shown() { bar_->hide(); }
-
-  private:
-    QWidget* bar_;
-};
-
-}  // namespace
 
 CopyProgress::CopyProgress(QWidget* screen) : QProgressBar(screen) {
     setObjectName(QStringLiteral("ProgressBar"));

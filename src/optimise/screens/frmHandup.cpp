@@ -24,6 +24,7 @@
 #include "ui/guard.h"
 #include "ui/message_notice.h"
 #include "ui/report_list.h"
+#include "ui/shown.h"
 #include "ui/text.h"
 #include "ui/text_box.h"
 
@@ -215,23 +216,23 @@ void frmHandup::Run() {
         return;
     }
     label4_->setText(QStringLiteral("稍候优化正在进行中......"));
-    label4_->show();
-    std::unique_ptr<QLabel, void (*)(QLabel*)> shown(label4_, [](QLabel* label) { label->hide(); });
     const QString start = QStringLiteral("起始时间：") + Now();
-    statusBar_->showMessage(start);
-    MessageNotice notice(this);
-    runPanel_->Run(
-        [&](const RunProgress& progress) {
-            return RunManual(App().Main(), App().optimise, App().YHScheme, FromQt(txtName_->text()), rows,
-                             notice, progress);
-        },
-        [this](const RunStage& stage) {
-            runPanel_->Bar().setRange(0, stage.pieces);
-            runPanel_->Bar().setValue(stage.placed);
-            return QStringLiteral("已排 %1 / %2 件").arg(stage.placed).arg(stage.pieces);
-        });
-    statusBar_->showMessage(start + QStringLiteral(" 结束时间：") + Now());
-    shown.reset();
+    {
+        const Shown shown(label4_);
+        statusBar_->showMessage(start);
+        MessageNotice notice(this);
+        runPanel_->Run(
+            [&](const RunProgress& progress) {
+                return RunManual(App().Main(), App().optimise, App().YHScheme, FromQt(txtName_->text()), rows,
+                                 notice, progress);
+            },
+            [this](const RunStage& stage) {
+                runPanel_->Bar().setRange(0, stage.pieces);
+                runPanel_->Bar().setValue(stage.placed);
+                return QStringLiteral("已排 %1 / %2 件").arg(stage.placed).arg(stage.pieces);
+            });
+        statusBar_->showMessage(start + QStringLiteral(" 结束时间：") + Now());
+    }
     frmResult(this).exec();
 }
 
