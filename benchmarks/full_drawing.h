@@ -3,7 +3,7 @@
 #include <random>
 
 #include "drawing/cpictire.h"
-#include "drawing/paint_target.h"
+#include "page/paint_target.h"
 #include "platform/notice.h"
 
 namespace kalvane::bench {

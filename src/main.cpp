@@ -1,7 +1,6 @@
 #include <QApplication>
 #include <filesystem>
 
-#include "app/app_state.h"
 #include "app/instance_lock.h"
 #include "app/run_marker.h"
 #include "app/screens/MDIMain.h"
@@ -10,9 +9,12 @@
 #include "app/startup.h"
 #include "app/store_setup.h"
 #include "platform/settings_store.h"
+#include "session/app_state.h"
 #include "ui/application.h"
 #include "ui/guard.h"
 #include "ui/message_notice.h"
+#include "ui/screen_memory.h"
+#include "ui/text.h"
 
 using namespace kalvane;
 
@@ -22,8 +24,9 @@ int main(int argc, char* argv[]) {
     PrepareApplication(application);
     SettingsStore settings(SettingsStore::DefaultFile());
     App().settings = &settings;
-    Guarded(nullptr, [] {
+    Guarded(nullptr, [&settings] {
         App().folder = std::filesystem::current_path();
+        UseScreenMemory(&settings, ToQt(App().folder.string()));
         MessageNotice notice(nullptr);
         TellReadOnlyFolder(App(), notice);
         CreateMissingStores(App().folder);

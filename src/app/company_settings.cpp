@@ -1,7 +1,7 @@
 #include "app/company_settings.h"
 
-#include "app/startup.h"
 #include "platform/settings_store.h"
+#include "session/settings_in_force.h"
 #include "store/store_files.h"
 
 namespace kalvane {

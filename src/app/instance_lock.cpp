@@ -6,7 +6,7 @@
 
 #include <cerrno>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 
 namespace kalvane {

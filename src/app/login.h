@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/app_state.h"
+#include "session/app_state.h"
 #include "store/connection.h"
 
 namespace kalvane {

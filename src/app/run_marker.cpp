@@ -1,6 +1,6 @@
 #include "app/run_marker.h"
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 
 namespace kalvane {

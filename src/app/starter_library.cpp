@@ -6,8 +6,8 @@
 
 #include "drawing/cpictire.h"
 #include "drawing/mc_file.h"
+#include "numeric/error.h"
 #include "platform/code_page.h"
-#include "platform/error.h"
 #include "platform/notice.h"
 #include "store/command_scope.h"
 #include "store/schema.h"

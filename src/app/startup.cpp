@@ -5,25 +5,14 @@
 #include <string_view>
 
 #include "backup/restore.h"
-#include "numeric/number.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
-#include "platform/settings_store.h"
 #include "store/dated_copies.h"
 #include "store/migration.h"
 #include "store/store_files.h"
 
 namespace kalvane {
 namespace {
-
-std::int16_t ReadInt16(const SettingsStore& settings, std::string_view key, std::int16_t fallback) {
-    const std::string text = settings.Read(kSettingsApplication, kSectionMain, key, "");
-    try {
-        return text.empty() ? fallback : RoundToInt16(ParseNumber(text));
-    } catch (const NumericError&) {
-        return fallback;
-    }
-}
 
 constexpr const char* kErrorTitle = "出错！";
 
@@ -96,21 +85,6 @@ std::string TextOf(const std::unique_ptr<Connection>& connection) {
 }
 
 }  // namespace
-
-void ReadOutputSettings(AppState& state, std::int16_t windCheckDefault) {
-    state.outputFileType = ReadInt16(*state.settings, "OutPutFileType", 0);
-    state.windCheckOption = ReadInt16(*state.settings, "FYOPTION", windCheckDefault);
-}
-
-void ReadOptimiserOptions(AppState& state, Notice& notice) {
-    try {
-        state.optimise = ReadOptimiseSettings(*state.settings);
-    } catch (const NumericError& error) {
-        state.optimise = OptimiseSettings();
-        notice.Show(std::string("优化选项不能读取：") + error.what() + "。已改用默认值。", "提示",
-                    NoticeIcon::Warning);
-    }
-}
 
 void TellReadOnlyFolder(const AppState& state, Notice& notice) {
     if (IsWritableFolder(state.folder)) return;

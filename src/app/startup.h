@@ -1,20 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 
-#include "app/app_state.h"
 #include "platform/notice.h"
+#include "session/app_state.h"
 
 namespace kalvane {
-
-/// Reads the output file type and the wind check's model. `windCheckDefault` holds when the model was never
-/// saved: it differs between the start of the program (1) and the settings screen (0). A stored text that is
-/// no 16-bit number counts as never saved. Needs `state.settings`.
-void ReadOutputSettings(AppState& state, std::int16_t windCheckDefault);
-
-/// Reads the optimiser's options. A stored number that does not fit leaves the defaults and is told.
-void ReadOptimiserOptions(AppState& state, Notice& notice);
 
 /// Tells the operator when nothing can be saved in the start-up folder.
 void TellReadOnlyFolder(const AppState& state, Notice& notice);

@@ -3,10 +3,10 @@
 #include <functional>
 #include <string>
 
-#include "app/help_text.h"
 #include "app/starter_library.h"
 #include "app/user_accounts.h"
 #include "platform/files.h"
+#include "platform/help_text.h"
 #include "platform/unfinished_file.h"
 #include "store/connection.h"
 #include "store/dated_copies.h"

@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 #include "platform/unfinished_file.h"
 #include "store/command_scope.h"

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "drawing/cpictire.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "store/command_scope.h"
 #include "store/table_writer.h"
 

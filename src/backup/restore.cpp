@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 #include "store/command_scope.h"
 #include "store/dated_copies.h"

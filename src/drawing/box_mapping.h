@@ -1,8 +1,8 @@
 #pragma once
 
-#include "drawing/paint_target.h"
 #include "drawing/primitives.h"
-#include "platform/error.h"
+#include "numeric/error.h"
+#include "page/paint_target.h"
 
 namespace kalvane {
 

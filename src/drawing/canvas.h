@@ -1,7 +1,7 @@
 #pragma once
 
-#include "drawing/paint_target.h"
 #include "drawing/primitives.h"
+#include "page/paint_target.h"
 
 namespace kalvane {
 

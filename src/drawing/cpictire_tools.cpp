@@ -6,7 +6,7 @@
 #include "drawing/shapes.h"
 #include "drawing/status_bar.h"
 #include "drawing/text_form.h"
-#include "platform/assertion.h"
+#include "numeric/assertion.h"
 
 namespace kalvane {
 

@@ -7,9 +7,9 @@
 #include "drawing/desk_screen.h"
 #include "drawing/drawing_library.h"
 #include "drawing/status_bar.h"
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

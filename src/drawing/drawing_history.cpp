@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/assertion.h"
+#include "numeric/assertion.h"
 
 namespace kalvane {
 namespace {

@@ -7,9 +7,9 @@
 
 #include "drawing/cpictire.h"
 #include "drawing/token_reader.h"
+#include "numeric/error.h"
 #include "numeric/text.h"
 #include "platform/code_page.h"
-#include "platform/error.h"
 #include "platform/files.h"
 
 namespace kalvane {

@@ -1,6 +1,6 @@
 #include "drawing/page_templates.h"
 
-#include "platform/assertion.h"
+#include "numeric/assertion.h"
 
 namespace kalvane {
 namespace {

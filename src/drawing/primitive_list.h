@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "platform/assertion.h"
+#include "numeric/assertion.h"
 
 namespace kalvane {
 

@@ -6,8 +6,8 @@
 #include <system_error>
 #include <utility>
 
-#include "platform/assertion.h"
-#include "platform/error.h"
+#include "numeric/assertion.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 
 namespace kalvane {

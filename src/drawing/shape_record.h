@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "drawing/paint_target.h"
 #include "drawing/primitives.h"
+#include "page/paint_target.h"
 
 namespace kalvane {
 

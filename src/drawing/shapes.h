@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "drawing/paint_target.h"
 #include "drawing/primitives.h"
+#include "page/paint_target.h"
 
 namespace kalvane {
 

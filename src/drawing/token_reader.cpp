@@ -1,9 +1,9 @@
 #include "drawing/token_reader.h"
 
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
 #include "platform/code_page.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

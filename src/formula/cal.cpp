@@ -5,9 +5,9 @@
 #include <cmath>
 #include <limits>
 
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

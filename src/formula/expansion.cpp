@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "formula/labels.h"
+#include "numeric/error.h"
 #include "numeric/number.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

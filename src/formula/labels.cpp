@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "formula/cal.h"
+#include "numeric/assertion.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
-#include "platform/assertion.h"
 
 namespace kalvane {
 namespace {

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include "numeric/error.h"
 #include "numeric/text.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

@@ -1,7 +1,7 @@
 #include "optimise/ctable.h"
 
+#include "numeric/assertion.h"
 #include "numeric/number.h"
-#include "platform/assertion.h"
 
 namespace kalvane {
 namespace {

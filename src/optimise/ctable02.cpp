@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/assertion.h"
+#include "numeric/assertion.h"
 
 namespace kalvane {
 

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "drawing/page_target.h"
 #include "optimise/plan.h"
-#include "optimise/settings.h"
+#include "page/page_target.h"
+#include "session/optimise_settings.h"
 
 namespace kalvane {
 

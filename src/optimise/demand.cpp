@@ -5,9 +5,9 @@
 #include <map>
 
 #include "formula/labels.h"
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
-#include "platform/error.h"
 #include "store/command_scope.h"
 
 namespace kalvane {

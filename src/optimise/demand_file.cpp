@@ -4,11 +4,11 @@
 #include <string_view>
 #include <utility>
 
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
 #include "optimise/row_complaints.h"
 #include "platform/code_page.h"
-#include "platform/error.h"
 #include "platform/files.h"
 
 namespace kalvane {

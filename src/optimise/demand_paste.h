@@ -6,7 +6,7 @@
 
 #include "optimise/demand_file.h"
 #include "optimise/row_complaints.h"
-#include "optimise/settings.h"
+#include "session/optimise_settings.h"
 
 namespace kalvane {
 

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "drawing/page_target.h"
+#include "page/page_target.h"
 
 namespace kalvane {
 

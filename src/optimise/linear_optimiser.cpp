@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "optimise/pattern_text.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

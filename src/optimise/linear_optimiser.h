@@ -6,8 +6,8 @@
 #include "optimise/pattern_search.h"
 #include "optimise/plan_writer.h"
 #include "optimise/run_progress.h"
-#include "optimise/settings.h"
 #include "platform/notice.h"
+#include "session/optimise_settings.h"
 #include "store/cursor.h"
 
 namespace kalvane {

@@ -7,8 +7,8 @@
 
 #include "optimise/demand_file.h"
 #include "optimise/run_progress.h"
-#include "optimise/settings.h"
 #include "platform/notice.h"
+#include "session/optimise_settings.h"
 #include "store/connection.h"
 
 namespace kalvane {

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <optional>
 
+#include "numeric/error.h"
 #include "numeric/number.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <variant>
 
-#include "optimise/settings.h"
+#include "session/optimise_settings.h"
 
 namespace kalvane {
 

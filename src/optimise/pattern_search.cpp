@@ -5,10 +5,10 @@
 #include <string>
 #include <utility>
 
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "optimise/cstack_i.h"
 #include "optimise/stop_table.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

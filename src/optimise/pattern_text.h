@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "optimise/settings.h"
 #include "optimise/yh_array.h"
+#include "session/optimise_settings.h"
 
 namespace kalvane {
 

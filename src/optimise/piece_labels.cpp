@@ -1,9 +1,9 @@
 #include "optimise/piece_labels.h"
 
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "optimise/fitting_text.h"
 #include "optimise/pattern_text.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

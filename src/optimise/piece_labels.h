@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "drawing/page_target.h"
 #include "optimise/plan.h"
+#include "page/page_target.h"
 
 namespace kalvane {
 

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "report/report.h"
+#include "page/report.h"
 #include "store/connection.h"
 
 namespace kalvane {

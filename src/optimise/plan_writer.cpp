@@ -1,6 +1,6 @@
 #include "optimise/plan_writer.h"
 
-#include "platform/error.h"
+#include "numeric/error.h"
 
 namespace kalvane {
 

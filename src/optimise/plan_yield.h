@@ -6,7 +6,7 @@
 
 #include "optimise/bar_bound.h"
 #include "optimise/plan.h"
-#include "optimise/settings.h"
+#include "session/optimise_settings.h"
 
 namespace kalvane {
 

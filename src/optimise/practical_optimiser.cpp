@@ -2,10 +2,10 @@
 
 #include <utility>
 
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "optimise/ctable02.h"
 #include "optimise/pattern_text.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "optimise/plan_writer.h"
 #include "optimise/run_progress.h"
-#include "optimise/settings.h"
 #include "platform/notice.h"
+#include "session/optimise_settings.h"
 #include "store/cursor.h"
 
 namespace kalvane {

@@ -1,9 +1,9 @@
 #include "optimise/run.h"
 
+#include "numeric/error.h"
 #include "optimise/linear_optimiser.h"
 #include "optimise/plan_writer.h"
 #include "optimise/practical_optimiser.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "optimise/run_progress.h"
-#include "optimise/settings.h"
 #include "platform/notice.h"
+#include "session/optimise_settings.h"
 #include "store/connection.h"
 
 namespace kalvane {

@@ -1,7 +1,7 @@
 #include "optimise/yh_array.h"
 
+#include "numeric/error.h"
 #include "numeric/number.h"
-#include "platform/error.h"
 
 namespace kalvane {
 

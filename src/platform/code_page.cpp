@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <cerrno>
 
+#include "numeric/assertion.h"
+#include "numeric/error.h"
 #include "numeric/text.h"
-#include "platform/assertion.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

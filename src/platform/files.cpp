@@ -9,8 +9,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "numeric/error.h"
 #include "platform/descriptor.h"
-#include "platform/error.h"
 #include "platform/unfinished_file.h"
 
 namespace kalvane {

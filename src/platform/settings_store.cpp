@@ -2,8 +2,8 @@
 
 #include <cstdlib>
 
+#include "numeric/error.h"
 #include "numeric/text.h"
-#include "platform/error.h"
 #include "platform/files.h"
 
 namespace kalvane {

@@ -5,8 +5,8 @@
 
 #include <cstdlib>
 
+#include "numeric/error.h"
 #include "numeric/number.h"
-#include "platform/error.h"
 #include "platform/files.h"
 
 namespace kalvane {

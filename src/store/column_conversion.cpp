@@ -1,8 +1,8 @@
 #include "store/column_conversion.h"
 
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

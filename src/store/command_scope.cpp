@@ -1,6 +1,6 @@
 #include "store/command_scope.h"
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "store/connection_implementation.h"
 
 namespace kalvane {

@@ -4,9 +4,9 @@
 #include <exception>
 #include <utility>
 
+#include "numeric/assertion.h"
+#include "numeric/error.h"
 #include "numeric/number.h"
-#include "platform/assertion.h"
-#include "platform/error.h"
 #include "store/column_conversion.h"
 #include "store/connection_implementation.h"
 #include "store/engine_error.h"

@@ -1,8 +1,8 @@
 #include "store/cursor.h"
 
+#include "numeric/assertion.h"
+#include "numeric/error.h"
 #include "numeric/text.h"
-#include "platform/assertion.h"
-#include "platform/error.h"
 
 namespace kalvane {
 

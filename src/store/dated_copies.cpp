@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <ctime>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 #include "store/store_copy.h"
 

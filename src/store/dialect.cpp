@@ -4,8 +4,8 @@
 #include <array>
 #include <optional>
 
+#include "numeric/error.h"
 #include "numeric/text.h"
-#include "platform/error.h"
 #include "store/statement_scanner.h"
 
 namespace kalvane {

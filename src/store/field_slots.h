@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string>
 
-#include "platform/assertion.h"
+#include "numeric/assertion.h"
 
 namespace kalvane {
 
@@ -26,8 +26,5 @@ class FieldSlots {
   private:
     std::array<std::string, kCount> slots_;
 };
-
-/// The slots all screens share.
-FieldSlots& SharedFieldSlots();
 
 }  // namespace kalvane

@@ -1,7 +1,7 @@
 #include "store/field_value.h"
 
+#include "numeric/error.h"
 #include "numeric/number.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

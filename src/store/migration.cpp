@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "store/dated_copies.h"
 #include "store/engine_error.h"
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 
 namespace kalvane {
 

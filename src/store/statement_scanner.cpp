@@ -1,7 +1,7 @@
 #include "store/statement_scanner.h"
 
+#include "numeric/error.h"
 #include "numeric/text.h"
-#include "platform/error.h"
 
 namespace kalvane {
 namespace {

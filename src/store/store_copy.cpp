@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/unfinished_file.h"
 #include "store/engine_error.h"
 

@@ -2,7 +2,7 @@
 
 #include <sqlite3.h>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "store/engine_error.h"
 
 namespace kalvane {

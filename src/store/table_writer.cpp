@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "store/column_conversion.h"
 #include "store/connection_implementation.h"
 #include "store/engine_error.h"

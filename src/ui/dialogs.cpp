@@ -7,7 +7,6 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
-#include "app/app_state.h"
 #include "ui/file_filter.h"
 #include "ui/screen_memory.h"
 #include "ui/text.h"
@@ -74,7 +73,8 @@ class RealDialogs final : public Dialogs {
     }
 
     QString OpenFileName(QWidget* parent, const QString& purpose, const QString& filter) override {
-        QFileDialog dialog(Over(parent), QStringLiteral("打开"), Folder(purpose), ToToolkitFilter(filter));
+        QFileDialog dialog(Over(parent), QStringLiteral("打开"), RememberedFolder(purpose),
+                           ToToolkitFilter(filter));
         dialog.setFileMode(QFileDialog::ExistingFile);
         dialog.setLabelText(QFileDialog::Accept, QStringLiteral("打开"));
         return Choose(dialog, purpose);
@@ -82,7 +82,8 @@ class RealDialogs final : public Dialogs {
 
     QString SaveFileName(QWidget* parent, const QString& purpose, const QString& filter,
                          const QString& defaultSuffix, bool askOverwrite) override {
-        QFileDialog dialog(Over(parent), QStringLiteral("另存为"), Folder(purpose), ToToolkitFilter(filter));
+        QFileDialog dialog(Over(parent), QStringLiteral("另存为"), RememberedFolder(purpose),
+                           ToToolkitFilter(filter));
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setFileMode(QFileDialog::AnyFile);
         dialog.setDefaultSuffix(defaultSuffix);
@@ -117,14 +118,6 @@ class RealDialogs final : public Dialogs {
         return box.exec();
     }
 
-    static QString FolderKey(const QString& purpose) { return purpose + QStringLiteral(".folder"); }
-
-    static QString Folder(const QString& purpose) {
-        const QString start = ToQt(App().folder.string());
-        const QString folder = Remembered(FolderKey(purpose), start);
-        return QFileInfo(folder).isDir() ? folder : start;
-    }
-
     static QString Choose(QFileDialog& dialog, const QString& purpose) {
         dialog.setLabelText(QFileDialog::Reject, QStringLiteral("取消"));
         dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("查找范围："));
@@ -133,7 +126,7 @@ class RealDialogs final : public Dialogs {
         dialog.resize(dialog.size().expandedTo(kFileDialogSize));
         if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
         const QString file = dialog.selectedFiles().front();
-        Remember(FolderKey(purpose), QFileInfo(file).absolutePath());
+        RememberFolder(purpose, QFileInfo(file).absolutePath());
         return file;
     }
 };

@@ -6,7 +6,7 @@
 #include <QPdfWriter>
 #include <QPrinter>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 #include "ui/text.h"
 

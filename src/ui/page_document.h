@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <functional>
 
-#include "drawing/page_record.h"
+#include "page/page_record.h"
 #include "ui/painter_target.h"
 
 namespace kalvane {

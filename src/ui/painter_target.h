@@ -7,7 +7,7 @@
 #include <QPen>
 #include <vector>
 
-#include "drawing/page_target.h"
+#include "page/page_target.h"
 
 class QPainter;
 

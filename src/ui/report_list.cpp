@@ -2,7 +2,7 @@
 
 #include <QHeaderView>
 
-#include "platform/assertion.h"
+#include "numeric/assertion.h"
 
 namespace kalvane {
 namespace {

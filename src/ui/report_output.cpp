@@ -1,6 +1,6 @@
 #include "ui/report_output.h"
 
-#include "report/paint_report.h"
+#include "page/paint_report.h"
 #include "ui/page_output.h"
 #include "ui/text.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "report/report.h"
+#include "page/report.h"
 
 class QWidget;
 

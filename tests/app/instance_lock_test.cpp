@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "support/temp_folder.h"
 
 namespace kalvane::test {

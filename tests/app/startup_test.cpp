@@ -5,7 +5,7 @@
 #include "app/instance_lock.h"
 #include "app/run_marker.h"
 #include "app/store_setup.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 #include "store/dated_copies.h"
 #include "support/main_store.h"

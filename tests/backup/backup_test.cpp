@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #include "backup/restore.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 #include "store/dated_copies.h"
 #include "support/main_store.h"

@@ -1,7 +1,7 @@
 #include "backup/legacy_import.h"
 
 #include "drawing/cpictire.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "support/main_store.h"
 #include "support/raw_store.h"
 

@@ -6,7 +6,7 @@
 #include <random>
 
 #include "backup/restore.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 #include "project/project_windows.h"
 #include "store/dated_copies.h"

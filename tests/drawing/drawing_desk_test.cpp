@@ -3,7 +3,7 @@
 #include <set>
 
 #include "drawing/desk_kit.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 #include "support/main_store.h"
 

@@ -1,7 +1,7 @@
 #include "drawing/drawing_grid.h"
 
 #include "drawing/recorders.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 
 namespace kalvane::test {
 

@@ -1,7 +1,7 @@
 #include "drawing/drawing_library.h"
 
 #include "drawing/recorders.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "support/main_store.h"
 
 namespace kalvane::test {

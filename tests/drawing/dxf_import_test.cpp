@@ -1,8 +1,8 @@
 #include "drawing/dxf_import.h"
 
 #include "drawing/recorders.h"
+#include "numeric/error.h"
 #include "platform/code_page.h"
-#include "platform/error.h"
 #include "platform/files.h"
 #include "support/temp_folder.h"
 

@@ -11,9 +11,9 @@
 #include "drawing/cpictire.h"
 #include "drawing/dxf_import.h"
 #include "drawing/mc_file.h"
+#include "numeric/error.h"
 #include "numeric/text.h"
 #include "platform/code_page.h"
-#include "platform/error.h"
 #include "platform/files.h"
 #include "support/recording_notice.h"
 

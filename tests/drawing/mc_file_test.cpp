@@ -1,7 +1,7 @@
 #include "drawing/mc_file.h"
 
 #include "drawing/recorders.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 #include "support/temp_folder.h"
 

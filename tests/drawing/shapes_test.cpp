@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "drawing/recorders.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 
 namespace kalvane::test {
 

@@ -4,7 +4,7 @@
 #include "app/screens/frmSetting.h"
 #include "app/screens/frmUserChangPwd.h"
 #include "app/screens/frmUserMng.h"
-#include "app/startup.h"
+#include "session/settings_in_force.h"
 #include "support/screens/screen_kit.h"
 #include "ui/report_list.h"
 

@@ -3,10 +3,10 @@
 
 #include <ctime>
 
+#include "numeric/error.h"
 #include "optimise/plan.h"
 #include "optimise/screens/frmHandup.h"
 #include "optimise/screens/frmResult.h"
-#include "platform/error.h"
 #include "platform/files.h"
 #include "support/screens/screen_kit.h"
 

@@ -1,5 +1,6 @@
 // The road from a project to its cutting plan and the plan's output, through the screens.
 
+#include "app/screens/kalvane_kernel.h"
 #include "optimise/screens/PYH02.h"
 #include "optimise/screens/frmYHMain.h"
 #include "platform/files.h"
@@ -100,7 +101,7 @@ TEST_F(PlanFlow, FromTheModuleToThePlan) {
 
 TEST_F(PlanFlow, FromAnOpenProjectToTheOutputs) {
     App().YHScheme = 1;  // as the module may have left it
-    frmOpenGC::Open({"2", "", "阳光花园", "", ""});
+    frmOpenGC::Open({"2", "", "阳光花园", "", ""}, KalvaneKernel::Roads());
     frmOpenGC* opened = frmOpenGC::OfProject("2");
     dialogs_.files = {QString(), InFolder("plan.txt"), InFolder("plan.xlsx"), InFolder("cuts.pdf"),
                       InFolder("totals.pdf")};

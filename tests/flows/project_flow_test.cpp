@@ -1,5 +1,6 @@
 // The road from a new project to its windows, through the screens.
 
+#include "app/screens/kalvane_kernel.h"
 #include "project/screens/frmAddGCMC.h"
 #include "project/screens/frmMCGCGL.h"
 #include "project/screens/frmOpenGC.h"
@@ -43,7 +44,7 @@ class ProjectFlow : public ScreenTest {
     }
 
     frmOpenGC* OpenSample() {
-        frmOpenGC::Open({"1", "YL-2026-001", "示例工程", "", ""});
+        frmOpenGC::Open({"1", "YL-2026-001", "示例工程", "", ""}, KalvaneKernel::Roads());
         return frmOpenGC::OfProject("1");
     }
 };
@@ -51,7 +52,7 @@ class ProjectFlow : public ScreenTest {
 TEST_F(ProjectFlow, ProjectsAreEnteredChangedAndDeleted) {
     App().Main().Execute("Insert into 工程 (编号,合同编号,工程名称) values(4,'h','A')");
     App().Main().Execute("Update 工程 Set 工程名称='Z' where 编号=1");
-    frmMCGCGL list(nullptr);
+    frmMCGCGL list(KalvaneKernel::Roads(), nullptr);
     list.show();
     auto* lvw = Find<ReportList>(&list, "Lvw");
     EXPECT_EQ(lvw->Text(0, 0), QStringLiteral("A")) << "sorted by name, not in the order of the store";

@@ -2,6 +2,7 @@
 // reaches a store.
 
 #include "app/screens/frmUserMng.h"
+#include "app/screens/kalvane_kernel.h"
 #include "backup/screens/frmSaveFile.h"
 #include "drawing/screens/FrmDraw.h"
 #include "optimise/screens/frmHandup.h"
@@ -77,9 +78,9 @@ class StatementAttackTest : public ScreenTest {
 };
 
 TEST_F(StatementAttackTest, ProjectsAndWindows) {
-    frmMCGCGL projects(nullptr);
+    frmMCGCGL projects(KalvaneKernel::Roads(), nullptr);
     Attack("frmInputGC", "OKButton", [&] { Press(projects, "CmdAdd"); });
-    frmOpenGC::Open({"1", "", "示例工程", "", ""});
+    frmOpenGC::Open({"1", "", "示例工程", "", ""}, KalvaneKernel::Roads());
     frmOpenGC* windows = frmOpenGC::OfProject("1");
     Attack(
         "frmAddGCMC", "cmdAdd", [&] { Press(*windows, "CmdAdd"); },

@@ -4,7 +4,7 @@
 
 #include "formula/labels.h"
 #include "formula/literal_cal.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 
 namespace kalvane::test {
 

@@ -1,7 +1,7 @@
 #include "formula/expansion.h"
 
 #include "formula/labels.h"
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "support/main_store.h"
 
 namespace kalvane::test {

@@ -2,8 +2,8 @@
 
 #include <limits>
 
+#include "numeric/error.h"
 #include "numeric/text.h"
-#include "platform/error.h"
 
 namespace kalvane::test {
 

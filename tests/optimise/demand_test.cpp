@@ -1,7 +1,7 @@
 #include "optimise/demand.h"
 
+#include "numeric/error.h"
 #include "optimise/run.h"
-#include "platform/error.h"
 #include "support/main_store.h"
 
 namespace kalvane::test {

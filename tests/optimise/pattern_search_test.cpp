@@ -5,9 +5,9 @@
 #include <optional>
 #include <random>
 
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "optimise/cstack_i.h"
-#include "platform/error.h"
 #include "support/recording_notice.h"
 
 namespace kalvane::test {

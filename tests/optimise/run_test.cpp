@@ -4,12 +4,12 @@
 #include <map>
 #include <random>
 
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "optimise/bar_bound.h"
 #include "optimise/manual_run.h"
 #include "optimise/plan.h"
 #include "optimise/plan_yield.h"
-#include "platform/error.h"
 #include "support/main_store.h"
 #include "support/plan_checker.h"
 

@@ -1,6 +1,6 @@
 #include "platform/code_page.h"
 
-#include "platform/error.h"
+#include "numeric/error.h"
 
 namespace kalvane::test {
 

@@ -2,7 +2,7 @@
 
 #include <fstream>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 #include "support/temp_folder.h"
 

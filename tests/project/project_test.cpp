@@ -1,9 +1,9 @@
 // Tests of the rows that projects and their windows write, change and take away.
 
-#include "platform/error.h"
+#include "design/window_type_tree.h"
+#include "numeric/error.h"
 #include "project/project_list.h"
 #include "project/project_windows.h"
-#include "project/window_type_tree.h"
 #include "support/main_store.h"
 
 namespace kalvane::test {

@@ -5,7 +5,7 @@
 
 #include <fstream>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "store/command_scope.h"
 #include "store/helpers.h"
 #include "support/main_store.h"

@@ -1,6 +1,6 @@
 #include "store/migration.h"
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "store/dated_copies.h"
 #include "support/main_store.h"
 #include "support/raw_store.h"

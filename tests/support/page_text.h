@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "drawing/page_record.h"
+#include "page/page_record.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
 

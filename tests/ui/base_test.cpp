@@ -1,6 +1,6 @@
 // Tests of what all screens share: guards, the base of the screens.
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "support/screens/screen_kit.h"
 #include "ui/guard.h"
 #include "ui/main_frame.h"

@@ -1,6 +1,6 @@
 #include "ui/page_output.h"
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "platform/files.h"
 #include "support/screens/screen_kit.h"
 #include "ui/page_view.h"

@@ -1,7 +1,7 @@
 #include "drawing/recorders.h"
+#include "drawing/screens/window_picture.h"
 #include "support/temp_folder.h"
 #include "ui/picture_box.h"
-#include "ui/window_picture.h"
 
 namespace kalvane::test {
 

@@ -4,28 +4,29 @@
 #include <iostream>
 #include <utility>
 
-#include "app/app_state.h"
 #include "app/screens/MDIMain.h"
 #include "app/screens/frmLogin.h"
 #include "app/store_setup.h"
 #include "drawing/mcpicture.h"
+#include "drawing/screens/window_picture.h"
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "optimise/plan.h"
 #include "optimise/plan_text.h"
 #include "optimise/plan_workbook.h"
 #include "optimise/run.h"
-#include "platform/error.h"
 #include "platform/settings_store.h"
 #include "project/project_list.h"
 #include "project/project_windows.h"
-#include "store/field_slots.h"
+#include "session/app_state.h"
+#include "session/shared_slots.h"
 #include "store/helpers.h"
 #include "ui/application.h"
 #include "ui/dialogs.h"
 #include "ui/message_notice.h"
 #include "ui/report_list.h"
+#include "ui/screen_memory.h"
 #include "ui/text.h"
-#include "ui/window_picture.h"
 
 // Takes the sample order through the real screens and leaves plans and pictures in the folder named on the
 // command line.
@@ -316,6 +317,7 @@ int main(int argc, char* argv[]) {
     App().folder = FromQt(folder.path());
     SettingsStore settings(App().folder / "settings");
     App().settings = &settings;
+    UseScreenMemory(&settings, folder.path());
     try {
         Run();
     } catch (const std::exception& failure) {

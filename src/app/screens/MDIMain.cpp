@@ -12,11 +12,7 @@
 #include <functional>
 #include <optional>
 
-#include "app/app_state.h"
-#include "app/clear_stock.h"
-#include "app/help_text.h"
 #include "app/screens/frmAbort.h"
-#include "app/screens/frmHelp.h"
 #include "app/screens/frmSetting.h"
 #include "app/screens/frmUserChangPwd.h"
 #include "app/screens/frmUserMng.h"
@@ -24,9 +20,12 @@
 #include "app/screens/picture_area.h"
 #include "app/startup.h"
 #include "drawing/screens/FrmDraw.h"
+#include "numeric/assertion.h"
 #include "optimise/screens/PYH02.h"
-#include "platform/assertion.h"
+#include "platform/help_text.h"
 #include "platform/settings_store.h"
+#include "session/app_state.h"
+#include "session/settings_in_force.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
@@ -34,6 +33,8 @@
 #include "ui/message_notice.h"
 #include "ui/screen_memory.h"
 #include "ui/text.h"
+#include "ui/text_screen.h"
+#include "warehouse/clear_stock.h"
 
 namespace kalvane {
 namespace {
@@ -289,7 +290,7 @@ void MDIMain::ShowDrawingDesk() {
 }
 
 void MDIMain::ShowHelp() {
-    frmHelp(ToQt(HelpText(App().folder)), this).exec();
+    TextScreen(QStringLiteral("frmHelp"), QStringLiteral("帮助"), ToQt(HelpText(App().folder)), this).exec();
 }
 
 void MDIMain::ShowAbout() {

@@ -4,10 +4,10 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "app/app_state.h"
 #include "app/enc_decrypt.h"
 #include "app/startup.h"
 #include "app/user_accounts.h"
+#include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"

@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/app_state.h"
 #include "app/startup.h"
+#include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"

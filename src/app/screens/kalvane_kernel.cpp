@@ -1,14 +1,26 @@
 #include "app/screens/kalvane_kernel.h"
 
 #include "backup/screens/frmTools.h"
+#include "optimise/screens/frmCreate02.h"
 #include "project/screens/frmMCGCGL.h"
+#include "session/app_state.h"
 #include "ui/main_frame.h"
 
 namespace kalvane {
 
+ProjectRoads KalvaneKernel::Roads() {
+    ProjectRoads roads;
+    roads.optimise = [](QWidget* parent, const Project& project) {
+        App().YHScheme = 0;
+        App().optimiseProjectName = project.name;
+        frmCreate02(project.number, parent).exec();
+    };
+    return roads;
+}
+
 void KalvaneKernel::ShowGCGL() {
     if (ActivateScreen(QStringLiteral("frmMCGCGL"))) return;
-    (new frmMCGCGL(nullptr))->ShowModeless();
+    (new frmMCGCGL(Roads(), nullptr))->ShowModeless();
 }
 
 void KalvaneKernel::ShowTools(QWidget* parent) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "project/screens/project_roads.h"
+
 class QWidget;
 
 namespace kalvane {
@@ -7,6 +9,9 @@ namespace kalvane {
 /// Opens the work screens for the main screen, which makes a fresh one for each use.
 class KalvaneKernel {
   public:
+    /// Where the commands of an opened project lead.
+    static ProjectRoads Roads();
+
     /// The projects, not modal.
     void ShowGCGL();
     /// Backup and restore, modal.

@@ -4,7 +4,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "ui/text.h"
 
 namespace kalvane {

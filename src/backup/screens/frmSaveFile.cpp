@@ -7,11 +7,11 @@
 #include <QPushButton>
 #include <QStorageInfo>
 
-#include "app/app_state.h"
 #include "backup/backup.h"
 #include "backup/screens/copy_progress.h"
 #include "backup/screens/folder_tree.h"
 #include "platform/settings_store.h"
+#include "session/app_state.h"
 #include "store/store_files.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
@@ -31,10 +31,6 @@ QString DatabaseFolder() {
     const std::string file = App().settings->Read(kSettingsApplication, kSectionMain, "DATABASE",
                                                   (App().folder / kMainStoreName).string());
     return ToQt(std::filesystem::path(file).parent_path().string());
-}
-
-QString RememberedFolderKey() {
-    return frmSaveFile::Purpose() + QStringLiteral(".folder");
 }
 
 }  // namespace
@@ -78,8 +74,7 @@ frmSaveFile::frmSaveFile(QWidget* parent)
              [this] { Dir1_->SetFolder(Drive1_->currentData().toString()); });
     OnSignal(ok, &QPushButton::clicked, this, [this] { Save(); });
     OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
-    const QString last = Remembered(RememberedFolderKey(), {});
-    Dir1_->SetFolder(QFileInfo(last).isDir() ? last : DatabaseFolder());  // its drive may be unplugged
+    Dir1_->SetFolder(RememberedFolder(Purpose(), DatabaseFolder()));
     TxtFileName_->setFocus();
 }
 
@@ -124,7 +119,7 @@ void frmSaveFile::Save() {
         BackupMainStore(App().Main(), App().folder / kTemplateStoreName,
                         BackupPath(FromQt(folder), FromQt(TxtFileName_->text())), progress);
     });
-    Remember(RememberedFolderKey(), folder);
+    RememberFolder(Purpose(), folder);
     UseDialogs().Message(this, QStringLiteral("已备份完毕！"), kTitle, NoticeIcon::Information);
     accept();
 }

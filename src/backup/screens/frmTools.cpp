@@ -4,10 +4,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/app_state.h"
 #include "backup/restore.h"
 #include "backup/screens/copy_progress.h"
 #include "backup/screens/frmSaveFile.h"
+#include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"

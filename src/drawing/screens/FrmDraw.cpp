@@ -11,7 +11,6 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
-#include "app/app_state.h"
 #include "drawing/drawing_library.h"
 #include "drawing/dxf_import.h"
 #include "drawing/screens/command_box.h"
@@ -20,8 +19,9 @@
 #include "drawing/screens/frmInput.h"
 #include "drawing/screens/frmOpenPicture.h"
 #include "drawing/screens/frmSavePicEX.h"
-#include "platform/error.h"
-#include "store/field_slots.h"
+#include "numeric/error.h"
+#include "session/app_state.h"
+#include "session/shared_slots.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"

@@ -4,9 +4,9 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "app/app_state.h"
 #include "drawing/drawing_library.h"
-#include "store/field_slots.h"
+#include "session/app_state.h"
+#include "session/shared_slots.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"

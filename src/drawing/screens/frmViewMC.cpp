@@ -9,8 +9,8 @@
 #include <QStandardPaths>
 #include <QStorageInfo>
 
-#include "app/app_state.h"
 #include "platform/settings_store.h"
+#include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"

@@ -2,9 +2,9 @@
 
 #include <QPushButton>
 
-#include "app/app_state.h"
 #include "optimise/screens/frmCreate02.h"
 #include "project/project_list.h"
+#include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"

@@ -2,13 +2,13 @@
 
 #include <QPushButton>
 
-#include "app/app_state.h"
 #include "optimise/demand.h"
 #include "optimise/screens/frmCreate03.h"
-#include "optimise/screens/pick_lists.h"
+#include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
+#include "ui/pick_lists.h"
 #include "ui/report_list.h"
 #include "ui/text.h"
 

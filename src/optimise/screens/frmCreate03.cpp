@@ -3,14 +3,14 @@
 #include <QProgressBar>
 #include <QPushButton>
 
-#include "app/app_state.h"
 #include "optimise/run.h"
 #include "optimise/screens/frmResult.h"
-#include "optimise/screens/pick_lists.h"
 #include "optimise/screens/run_panel.h"
+#include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/message_notice.h"
+#include "ui/pick_lists.h"
 #include "ui/report_list.h"
 #include "ui/text.h"
 

@@ -12,11 +12,11 @@
 #include <QTime>
 #include <QVBoxLayout>
 
-#include "app/app_state.h"
 #include "numeric/number.h"
 #include "optimise/demand_paste.h"
 #include "optimise/screens/frmResult.h"
 #include "optimise/screens/run_panel.h"
+#include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/digit_filter.h"

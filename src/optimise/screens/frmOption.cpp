@@ -5,8 +5,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/app_state.h"
-#include "app/startup.h"
+#include "session/app_state.h"
+#include "session/settings_in_force.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/digit_filter.h"

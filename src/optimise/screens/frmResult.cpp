@@ -4,7 +4,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 
-#include "app/app_state.h"
 #include "optimise/piece_labels.h"
 #include "optimise/plan.h"
 #include "optimise/plan_report.h"
@@ -13,6 +12,7 @@
 #include "optimise/plan_yield.h"
 #include "optimise/screens/cut_diagram_view.h"
 #include "optimise/screens/yield_columns.h"
+#include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"

@@ -6,14 +6,14 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-#include "app/app_state.h"
-#include "app/help_text.h"
-#include "app/screens/frmHelp.h"
 #include "optimise/screens/frmCreate01.h"
 #include "optimise/screens/frmHandup.h"
 #include "optimise/screens/frmOption.h"
+#include "platform/help_text.h"
+#include "session/app_state.h"
 #include "ui/guard.h"
 #include "ui/text.h"
+#include "ui/text_screen.h"
 
 namespace kalvane {
 namespace {
@@ -85,7 +85,7 @@ void frmYHMain::ShowOptions() {
 }
 
 void frmYHMain::ShowHelp() {
-    frmHelp(ToQt(HelpText(App().folder)), this).exec();
+    TextScreen(QStringLiteral("frmHelp"), QStringLiteral("帮助"), ToQt(HelpText(App().folder)), this).exec();
 }
 
 void frmYHMain::Refresh() {

@@ -10,9 +10,11 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "app/app_state.h"
 #include "drawing/mcpicture.h"
+#include "drawing/screens/window_picture.h"
 #include "numeric/number.h"
+#include "session/app_state.h"
+#include "session/shared_slots.h"
 #include "store/helpers.h"
 #include "ui/command_buttons.h"
 #include "ui/digits_only.h"
@@ -21,7 +23,6 @@
 #include "ui/report_list.h"
 #include "ui/text.h"
 #include "ui/text_box.h"
-#include "ui/window_picture.h"
 
 namespace kalvane {
 namespace {

@@ -4,8 +4,8 @@
 #include <memory>
 #include <vector>
 
+#include "design/window_type_tree.h"
 #include "project/project_windows.h"
-#include "project/window_type_tree.h"
 #include "ui/entry_screen.h"
 #include "ui/message_notice.h"
 

@@ -3,7 +3,7 @@
 #include <QFormLayout>
 #include <QPushButton>
 
-#include "store/field_slots.h"
+#include "session/shared_slots.h"
 #include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/text.h"

@@ -2,10 +2,10 @@
 
 #include <QPushButton>
 
-#include "app/app_state.h"
 #include "project/screens/frmInputGC.h"
 #include "project/screens/frmOpenGC.h"
-#include "store/field_slots.h"
+#include "session/app_state.h"
+#include "session/shared_slots.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
@@ -29,8 +29,9 @@ Project ToProject(const QStringList& row) {
 
 }  // namespace
 
-frmMCGCGL::frmMCGCGL(QWidget* parent)
+frmMCGCGL::frmMCGCGL(ProjectRoads roads, QWidget* parent)
     : Screen(QStringLiteral("frmMCGCGL"), QStringLiteral("塑钢工程管理"), parent),
+      roads_(std::move(roads)),
       lvw_(new ReportList(QStringLiteral("Lvw"),
                           {QStringLiteral("工程名称"), QStringLiteral("工程地点"), QStringLiteral("甲方单位"),
                            QStringLiteral("合同编号"), QStringLiteral("编号")},
@@ -101,7 +102,7 @@ void frmMCGCGL::Delete() {
 
 void frmMCGCGL::Open() {
     const std::optional<Project> project = Selected(QStringLiteral("无打开的工程！"));
-    if (project) frmOpenGC::Open(*project);
+    if (project) frmOpenGC::Open(*project, roads_);
 }
 
 std::optional<Project> frmMCGCGL::Selected(const QString& complaint) {

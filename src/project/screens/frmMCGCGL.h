@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "project/project_list.h"
+#include "project/screens/project_roads.h"
 #include "ui/screen.h"
 
 namespace kalvane {
@@ -15,7 +16,7 @@ class frmMCGCGL : public Screen {
     Q_OBJECT
 
   public:
-    explicit frmMCGCGL(QWidget* parent);
+    frmMCGCGL(ProjectRoads roads, QWidget* parent);
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -34,6 +35,7 @@ class frmMCGCGL : public Screen {
     std::optional<Project> Input(const QString& title, Project project,
                                  const std::function<void(Project&)>& save);
 
+    const ProjectRoads roads_;
     ReportList* lvw_;
 };
 

@@ -3,11 +3,10 @@
 #include <QApplication>
 #include <QPushButton>
 
-#include "app/app_state.h"
-#include "optimise/screens/frmCreate02.h"
 #include "platform/settings_store.h"
 #include "project/screens/frmAddGCMC.h"
 #include "project/screens/window_rows.h"
+#include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
@@ -24,8 +23,9 @@ const QString kTitle = QStringLiteral("提示");
 constexpr std::string_view kStartNumberKey = "AUTONUM";
 }  // namespace
 
-frmOpenGC::frmOpenGC(QWidget* parent)
+frmOpenGC::frmOpenGC(ProjectRoads roads, QWidget* parent)
     : Screen(kScreenName, QStringLiteral("工程名称->"), parent),
+      roads_(std::move(roads)),
       lvw_(new ReportList(QStringLiteral("Lvw"), WindowColumns(), this)) {
     QPushButton* add = MakeButton("CmdAdd", QStringLiteral("添加门窗"), this, QStringLiteral("Insert"));
     QPushButton* composite = MakeButton("CmcZHMC", QStringLiteral("添加组合门窗"), this);
@@ -63,13 +63,13 @@ frmOpenGC* frmOpenGC::Shown() {
     return nullptr;
 }
 
-void frmOpenGC::Open(const Project& project) {
+void frmOpenGC::Open(const Project& project, const ProjectRoads& roads) {
     if (frmOpenGC* shown = Shown()) {
         shown->SetProject(project);
         ActivateScreen(kScreenName);
         return;
     }
-    auto screen = std::make_unique<frmOpenGC>(nullptr);
+    auto screen = std::make_unique<frmOpenGC>(roads, nullptr);
     screen->SetProject(project);
     screen.release()->ShowModeless();  // deletes itself when it is closed
 }
@@ -157,9 +157,7 @@ void frmOpenGC::AskStartNumber() {
 }
 
 void frmOpenGC::Optimise() {
-    App().YHScheme = 0;
-    App().optimiseProjectName = project_.name;
-    frmCreate02(project_.number, this).exec();
+    roads_.optimise(this, project_);
 }
 
 }  // namespace kalvane

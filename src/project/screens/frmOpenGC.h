@@ -2,6 +2,7 @@
 
 #include "project/project_list.h"
 #include "project/project_windows.h"
+#include "project/screens/project_roads.h"
 #include "ui/screen.h"
 
 namespace kalvane {
@@ -14,10 +15,10 @@ class frmOpenGC : public Screen {
     Q_OBJECT
 
   public:
-    explicit frmOpenGC(QWidget* parent);
+    frmOpenGC(ProjectRoads roads, QWidget* parent);
 
     /// Shows the project in the screen that is open, or else in a new one.
-    static void Open(const Project& project);
+    static void Open(const Project& project, const ProjectRoads& roads);
     /// The open screen if it shows that project, else null.
     static frmOpenGC* OfProject(const std::string& number);
 
@@ -38,6 +39,7 @@ class frmOpenGC : public Screen {
     void Reload(const QString& selected);
     QString SelectedNumber() const;
 
+    const ProjectRoads roads_;
     ReportList* lvw_;
     Project project_;
 };

@@ -1,6 +1,6 @@
 #include "project/screens/window_rows.h"
 
-#include "platform/assertion.h"
+#include "numeric/assertion.h"
 #include "ui/text.h"
 
 namespace kalvane {

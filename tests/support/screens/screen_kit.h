@@ -9,15 +9,16 @@
 #include <functional>
 #include <memory>
 
-#include "app/app_state.h"
 #include "app/store_setup.h"
 #include "platform/settings_store.h"
-#include "store/field_slots.h"
+#include "session/app_state.h"
+#include "session/shared_slots.h"
 #include "store/store_files.h"
 #include "support/screens/scripted_dialogs.h"
 #include "support/store_rows.h"
 #include "support/temp_folder.h"
 #include "ui/report_list.h"
+#include "ui/screen_memory.h"
 
 namespace kalvane::test {
 
@@ -121,6 +122,7 @@ class ScreenTest : public testing::Test {
         state.userAuth = "111111111111";
         state.folder = folder_.Path();
         state.settings = &settings_;
+        UseScreenMemory(&settings_, QString::fromStdString(folder_.Path().string()));
         state.mainConnection = std::make_unique<Connection>(folder_ / kMainStoreName, StoreKind::Main);
         state.mainConnectionText = state.mainConnection->ConnectionText();
         state.stockConnection = std::make_unique<Connection>(folder_ / kStockStoreName, StoreKind::Stock);
@@ -129,6 +131,7 @@ class ScreenTest : public testing::Test {
 
     void TearDown() override {
         App() = AppState();
+        UseScreenMemory(nullptr, {});
         SharedFieldSlots() = FieldSlots();
     }
 

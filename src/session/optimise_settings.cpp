@@ -1,8 +1,8 @@
-#include "optimise/settings.h"
+#include "session/optimise_settings.h"
 
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
-#include "platform/error.h"
 #include "platform/settings_store.h"
 
 namespace kalvane {

@@ -1,4 +1,4 @@
-#include "ui/window_picture.h"
+#include "drawing/screens/window_picture.h"
 
 #include <QPainter>
 #include <algorithm>

@@ -1,5 +1,5 @@
-#include "report/paint_report.h"
-#include "report/wrap_text.h"
+#include "page/paint_report.h"
+#include "page/wrap_text.h"
 #include "support/page_text.h"
 
 namespace kalvane::test {

@@ -1,4 +1,4 @@
-#include "optimise/screens/pick_lists.h"
+#include "ui/pick_lists.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "report/wrap_text.h"
+#include "page/wrap_text.h"
 
 #include "numeric/text.h"
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "optimise/settings.h"
+#include "session/optimise_settings.h"
 #include "store/connection.h"
 
 namespace kalvane {

@@ -1,4 +1,4 @@
-#include "app/clear_stock.h"
+#include "warehouse/clear_stock.h"
 
 #include "store/command_scope.h"
 

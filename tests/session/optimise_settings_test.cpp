@@ -1,7 +1,7 @@
-#include "optimise/settings.h"
+#include "session/optimise_settings.h"
 
+#include "numeric/error.h"
 #include "optimise/option_form.h"
-#include "platform/error.h"
 #include "platform/settings_store.h"
 #include "support/temp_folder.h"
 

@@ -1,7 +1,7 @@
-#include "app/help_text.h"
+#include "platform/help_text.h"
 
+#include "numeric/error.h"
 #include "platform/code_page.h"
-#include "platform/error.h"
 #include "platform/files.h"
 
 namespace kalvane {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "drawing/page_target.h"
-#include "report/report.h"
+#include "page/page_target.h"
+#include "page/report.h"
 
 namespace kalvane {
 

@@ -1,6 +1,6 @@
-#include "app/app_state.h"
+#include "session/app_state.h"
 
-#include "platform/error.h"
+#include "numeric/error.h"
 
 namespace kalvane {
 

@@ -1,4 +1,4 @@
-#include "store/field_slots.h"
+#include "session/shared_slots.h"
 
 namespace kalvane {
 

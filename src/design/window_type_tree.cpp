@@ -1,6 +1,6 @@
-#include "project/window_type_tree.h"
+#include "design/window_type_tree.h"
 
-#include "platform/error.h"
+#include "numeric/error.h"
 #include "store/helpers.h"
 
 namespace kalvane {

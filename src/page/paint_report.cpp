@@ -1,10 +1,10 @@
-#include "report/paint_report.h"
+#include "page/paint_report.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "platform/assertion.h"
-#include "report/wrap_text.h"
+#include "numeric/assertion.h"
+#include "page/wrap_text.h"
 
 namespace kalvane {
 namespace {

@@ -4,7 +4,7 @@
 #include <variant>
 #include <vector>
 
-#include "drawing/page_target.h"
+#include "page/page_target.h"
 
 namespace kalvane {
 

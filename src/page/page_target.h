@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "drawing/paint_target.h"
+#include "page/paint_target.h"
 
 namespace kalvane {
 

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/notice.h"
+#include "session/app_state.h"
+
+namespace kalvane {
+
+/// Reads the output file type and the wind check's model. `windCheckDefault` holds when the model was never
+/// saved: it differs between the start of the program (1) and the settings screen (0). A stored text that is
+/// no 16-bit number counts as never saved. Needs `state.settings`.
+void ReadOutputSettings(AppState& state, std::int16_t windCheckDefault);
+
+/// Reads the optimiser's options. A stored number that does not fit leaves the defaults and is told.
+void ReadOptimiserOptions(AppState& state, Notice& notice);
+
+}  // namespace kalvane
