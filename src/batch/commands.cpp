@@ -5,6 +5,7 @@
 #include "app/instance_lock.h"
 #include "app/store_setup.h"
 #include "batch/line_notice.h"
+#include "formula/composite.h"
 #include "formula/expansion.h"
 #include "formula/labels.h"
 #include "numeric/error.h"
@@ -122,16 +123,17 @@ FolderCommands::FolderCommands(std::filesystem::path folder) : folder_(std::move
 void FolderCommands::Expand(const std::string& project) const {
     LockedStore store(folder_);
     LineNotice notice;
+    FormulaRows rows(store.Get());
     for (const WindowEntry& entry : ListWindows(store.Get(), ProjectNumber(store.Get(), project))) {
         const BillSink print = [&](const BillRow& row) {
             PrintRow({entry.name, ClassName(row.materialClass), row.name, row.code, row.length, row.width,
                       row.quantity, row.unit});
         };
         const WindowToExpand window{entry.number, entry.typeNumber, entry.count};
-        if (IsComposite(window)) {
-            ExpandComposite(store.Get(), window, print);
+        if (IsComposite(window.typeId)) {
+            ExpandComposite(store.Get(), rows, window, print);
         } else {
-            ExpandPlain(store.Get(), window, notice, print);
+            ExpandPlain(store.Get(), rows, window, notice, print);
         }
     }
 }

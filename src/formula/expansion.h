@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "formula/bill_row.h"
+#include "formula/formula_rows.h"
 #include "platform/notice.h"
 #include "store/connection.h"
 
@@ -18,19 +18,19 @@ struct WindowToExpand {
 
 using BillSink = std::function<void(const BillRow&)>;
 
-/// True for a composite window: its 门窗编号 is below 0.
-bool IsComposite(const WindowToExpand& window);
-
 /// Evaluates the formula rows of the window's type with its labels: profiles, steels, fittings, panels. The
-/// quantity of profiles and steels goes down to a whole number before it is multiplied by the 樘数, that of
-/// fittings to the nearest one (ties to even). A 樘数 that is no number counts as 0.
+/// quantity of profiles and steels is rounded down before it is multiplied by the 樘数, that of fittings to
+/// the nearest whole number (ties to even). A 樘数 that is no number counts as 0. `rows` serves all windows
+/// of a command.
 ///
 /// A failure (a Null, a fitting quantity beyond 16 bits, a formula without end, what the sink throws) ends
-/// this window: its text goes to `notice`, and the rows handed on before stay.
-void ExpandPlain(Connection& connection, const WindowToExpand& window, Notice& notice, const BillSink& sink);
+/// this window: its text is shown by `notice`, and the rows handed on before stay.
+void ExpandPlain(Connection& connection, FormulaRows& rows, const WindowToExpand& window, Notice& notice,
+                 const BillSink& sink);
 
 /// As ExpandPlain for each member of a composite, times the member's count. Failures are thrown; a 樘数
 /// that is no number is one.
-void ExpandComposite(Connection& connection, const WindowToExpand& window, const BillSink& sink);
+void ExpandComposite(Connection& connection, FormulaRows& rows, const WindowToExpand& window,
+                     const BillSink& sink);
 
 }  // namespace kalvane

@@ -2,110 +2,96 @@
 
 #include <cmath>
 #include <cstdint>
-#include <map>
+#include <optional>
 
-#include "formula/labels.h"
+#include "formula/composite.h"
+#include "formula/formula_rows.h"
 #include "numeric/error.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
 #include "store/command_scope.h"
+#include "store/helpers.h"
 
 namespace kalvane {
 namespace {
 
-/// Positions of the columns of a formula table.
-struct FormulaColumns {
-    explicit FormulaColumns(const Cursor& row)
-        : name(row.FieldIndex("名称")),
-          material(row.FieldIndex("规格")),
-          quantity(row.FieldIndex("数量")),
-          length(row.FieldIndex("计算公式")) {}
-    int name, material, quantity, length;
-};
-
-/// The text of a text column, without a copy; Null throws.
-const std::string& TextOf(const FieldValue& field) {
-    if (field.IsNull()) throw NumericError::NullUse();
-    return field.TextView();
-}
-
-/// One gathering. The formula rows of a window type are read once, since a project has many windows of few
-/// types.
+/// One gathering.
 class Gathering {
   public:
-    explicit Gathering(Connection& connection) : connection_(connection) {}
+    explicit Gathering(Connection& connection) : connection_(connection), rows_(connection) {}
 
     void AddPlain(const DemandWindow& window) {
         const std::int16_t windows = RoundToInt16(ParseNumber(window.count));
         const LabelSet labels = LoadPlainLabels(connection_, Trim(window.id));
-        AddPlainRows(FormulaRows("Select * from 窗型材 where 窗号=" + window.windowType), labels, windows);
-        AddPlainRows(FormulaRows("Select * from 窗型钢 where 窗号=" + window.windowType), labels, windows);
+        ForEachBar(window.windowType, [&](const FormulaRow& row) {
+            Require(row.number, "编号", window.windowType);
+            AddPlainRow(row, labels, windows);
+        });
     }
 
     void AddComposite(const DemandWindow& window) {
         const double windows = Val(window.count);
-        Cursor member =
-            connection_.OpenCursor("Select CBN,CMC from 标注2 where MCBN=" + window.id + " Group by CBN,CMC");
-        LabelSet labels;
-        std::int16_t members = 0;
-        for (; !member.Eof(); member.MoveNext()) {
-            const std::string type = member.Field(0).Text();
-            LoadMemberLabels(connection_, window.id, type, member.Field(1).Text(), labels, members);
-            const double multiplier = windows * members;
-            AddMemberRows(FormulaRows("Select * From 窗型材 where 窗号=" + type), labels, multiplier);
-            AddMemberRows(FormulaRows("Select * From 窗型钢 where 窗号=" + type), labels, multiplier);
+        for (MemberWalk member(connection_, window.id); member.Next();) {
+            const double multiplier = windows * member.Count();
+            ForEachBar(member.TypeId(),
+                       [&](const FormulaRow& row) { AddMemberRow(row, member.Labels(), multiplier); });
         }
     }
 
   private:
-    Cursor& FormulaRows(const std::string& sql) {
-        auto known = formulaRows_.find(sql);
-        if (known == formulaRows_.end()) {
-            known = formulaRows_.emplace(sql, connection_.OpenCursor(sql)).first;
+    template <typename Add>
+    void ForEachBar(const std::string& typeId, Add add) {
+        for (const MaterialClass materialClass : kBarClasses) {
+            for (const FormulaRow& row : rows_.Of(materialClass, typeId)) {
+                Require(row.name, "名称", typeId);
+                Require(row.code, "规格", typeId);
+                Require(row.quantity, "数量", typeId);
+                Require(row.length, "计算公式", typeId);
+                add(row);
+            }
         }
-        known->second.MoveFirst();
-        return known->second;
     }
 
     /// A plain window's quantities keep their fraction, which the store rounds.
-    void AddPlainRows(Cursor& row, const LabelSet& labels, std::int16_t windows) {
-        const FormulaColumns columns(row);
-        for (; !row.Eof(); row.MoveNext()) {
-            const double quantity =
-                static_cast<double>(EvalWithLabels(TextOf(row.Field(columns.quantity)), labels));
-            statement_ =
-                "Insert into 优化数据 (编号,名称,规格,长度,数量) Values(" + row.Field(1).Text() + ",'";
-            AddRow(row, columns, labels, ShortText(NarrowToFloat(quantity * windows)));
-        }
+    void AddPlainRow(const FormulaRow& row, const LabelSet& labels, std::int16_t windows) {
+        const double quantity = static_cast<double>(EvalWithLabels(row.quantity.TextView(), labels));
+        statement_ = "Insert into 优化数据 (编号,名称,规格,长度,数量) Values(" + row.number.Text() + ",'";
+        AddRow(row, labels, ShortText(NarrowToFloat(quantity * windows)));
     }
 
     /// A composite's quantities are cut to whole pieces before they are multiplied.
-    void AddMemberRows(Cursor& row, const LabelSet& labels, double multiplier) {
-        const FormulaColumns columns(row);
-        for (; !row.Eof(); row.MoveNext()) {
-            const double quantity =
-                std::floor(static_cast<double>(EvalWithLabels(TextOf(row.Field(columns.quantity)), labels)));
-            statement_ = "Insert into 优化数据 (名称,规格,长度,数量) values('";
-            AddRow(row, columns, labels, ShortText(quantity * multiplier));
-        }
+    void AddMemberRow(const FormulaRow& row, const LabelSet& labels, double multiplier) {
+        const double quantity =
+            std::floor(static_cast<double>(EvalWithLabels(row.quantity.TextView(), labels)));
+        statement_ = "Insert into 优化数据 (名称,规格,长度,数量) values('";
+        AddRow(row, labels, ShortText(quantity * multiplier));
     }
 
     /// Ends the statement begun with the row's texts, length and quantity, and runs it.
-    void AddRow(const Cursor& row, const FormulaColumns& columns, const LabelSet& labels,
-                const std::string& quantity) {
-        statement_ += TextOf(row.Field(columns.name));
+    void AddRow(const FormulaRow& row, const LabelSet& labels, const std::string& quantity) {
+        statement_ += row.name.TextView();
         statement_ += "','";
-        statement_ += TextOf(row.Field(columns.material));
+        statement_ += row.code.TextView();
         statement_ += "',";
-        statement_ += ShortText(EvalWithLabels(TextOf(row.Field(columns.length)), labels));
+        statement_ += ShortText(EvalWithLabels(row.length.TextView(), labels));
         statement_ += ',';
         statement_ += quantity;
         statement_ += ')';
         connection_.Execute(statement_);
     }
 
+    /// An import may leave a column Null; the designer writes all of them.
+    void Require(const FieldValue& field, const char* column, const std::string& typeId) {
+        if (!field.IsNull()) return;
+        const std::optional<Cursor> type =
+            OpenQuery(connection_, "Select 名称 from 门窗 where 编号=" + typeId);
+        const std::string name = type && !type->Eof() ? type->Field(0).TextOrEmpty() : typeId;
+        throw NumericError("门窗类型“" + name + "”有一行公式没有“" + column +
+                           "”，请在“门窗公式设计”中打开这个类型并保存一次。");
+    }
+
     Connection& connection_;
-    std::map<std::string, Cursor> formulaRows_;  // by statement
+    FormulaRows rows_;
     std::string statement_;
 };
 
@@ -128,7 +114,7 @@ void GatherDemand(Connection& connection, const std::vector<DemandWindow>& windo
         connection.Execute("Delete * from 优化数据");
         Gathering gathering(connection);
         for (const DemandWindow& window : windows) {
-            if (Val(window.windowType) < 0) {
+            if (IsComposite(window.windowType)) {
                 gathering.AddComposite(window);
             } else {
                 gathering.AddPlain(window);

@@ -24,8 +24,8 @@ std::vector<DemandWindow> ListDemandWindows(Connection& connection, const std::s
 /// row, of each window or composite member. A plain window multiplies the evaluated quantity as it is, a
 /// composite one its whole part.
 ///
-/// Throws NumericError (a 樘数 that is no number, a Null, an overflow), FormulaError or StoreError at the
-/// first row that fails; the rows before it stay.
+/// Throws NumericError (a 樘数 that is no number, an overflow, a Null, named with its window type),
+/// FormulaError or StoreError at the first row that fails; the rows before it stay.
 void GatherDemand(Connection& connection, const std::vector<DemandWindow>& windows);
 
 }  // namespace kalvane

@@ -16,10 +16,6 @@ void InsertLabels(Connection& connection, const std::string& number, std::span<c
 
 }  // namespace
 
-bool WindowEntry::IsComposite() const {
-    return Val(typeNumber) <= 0;
-}
-
 std::vector<WindowEntry> ListWindows(Connection& connection, std::string_view projectNumber) {
     std::vector<WindowEntry> windows;
     for (Cursor row = connection.OpenCursor(

@@ -21,11 +21,8 @@ struct WindowEntry {
     std::string count;          ///< 樘数
     std::string note;           ///< 说明
     std::string projectNumber;  ///< 工程编号
-    std::string typeNumber;     ///< 门窗编号
+    std::string typeNumber;     ///< 门窗编号; see formula/composite.h
     std::string number;         ///< 编号
-
-    /// A composite window carries the negative number of its main drawing in place of a window type.
-    bool IsComposite() const;
 };
 
 /// A label of a plain project window: a dimension of its drawing. All texts, as they are shown.

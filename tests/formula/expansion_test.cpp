@@ -1,6 +1,6 @@
 #include "formula/expansion.h"
 
-#include "formula/labels.h"
+#include "formula/composite.h"
 #include "numeric/error.h"
 #include "support/main_store.h"
 
@@ -21,13 +21,15 @@ class ExpansionTest : public MainStoreTest {
 
     std::string Plain(const WindowToExpand& window) {
         std::string text;
-        ExpandPlain(*store_, window, notice_, Collect(text));
+        FormulaRows rows(*store_);
+        ExpandPlain(*store_, rows, window, notice_, Collect(text));
         return text;
     }
 
     std::string Composite(const WindowToExpand& window) {
         std::string text;
-        ExpandComposite(*store_, window, Collect(text));
+        FormulaRows rows(*store_);
+        ExpandComposite(*store_, rows, window, Collect(text));
         return text;
     }
 
@@ -40,7 +42,6 @@ class ExpansionTest : public MainStoreTest {
 };
 
 TEST_F(ExpansionTest, PlainWindowGoesDownForBarsAndToTheNearestForFittings) {
-    EXPECT_FALSE(IsComposite({"1", "5", "3"}));
     EXPECT_EQ(Plain({"1", "5", "3"}),
               "框B|K60|1440||6|\n"   // 2 x 3
               "框H|K60|1140||-6|\n"  // -1.5 goes down to -2
@@ -72,7 +73,6 @@ TEST_F(ExpansionTest, CompositeMultipliesByTheMembersCount) {
     Insert({"标注2 (MCBN,CBN,MC,MCZ,CMC,count) values(7,5,'B','1000','甲10',3)",
             "标注2 (MCBN,CBN,MC,MCZ,CMC,count) values(7,5,'H','900','甲10',3)",
             "标注2 (MCBN,CBN,MC,MCZ,CMC,count) values(7,5,'B','500','甲11',1)"});
-    EXPECT_TRUE(IsComposite({"7", "-267", "2"}));
     // Member 甲11 has no label H, which vanishes from "H-183": an absent operand less 183.
     const std::string expected =
         "框B|K60|940||12|\n滑轮|L1|||12|个  \n锁|S1|||18|把\n5白玻||815|717|12|\n"
@@ -83,6 +83,17 @@ TEST_F(ExpansionTest, CompositeMultipliesByTheMembersCount) {
     Insert({"标注2 (MCBN,CBN,MC,MCZ,count) values(7,6,'B','1',9)",
             "窗型材 (窗号,编号,名称,规格,数量,计算公式) values(6,1,'扇B','K70','1','B')"});
     EXPECT_EQ(Composite({"7", "-267", "2"}), expected + "扇B|K70|500||2|\n");
+}
+
+// A window with number 0 is plain for its material, but its editor is that for composites.
+TEST(Composite, FollowsFromTheTypeNumber) {
+    const auto is = [](const char* number) {
+        return std::pair(IsComposite(number), OpensAsComposite(number));
+    };
+    EXPECT_EQ(is("-267"), std::pair(true, true));
+    EXPECT_EQ(is("0"), std::pair(false, true));
+    EXPECT_EQ(is(""), std::pair(false, true));
+    EXPECT_EQ(is("5"), std::pair(false, false));
 }
 
 }  // namespace kalvane::test

@@ -50,6 +50,18 @@ TEST_F(DemandTest, CompositesCutTheQuantityFirst) {
     EXPECT_THROW(Gather({Window("", "8", "22")}), NumericError);
 }
 
+TEST_F(DemandTest, AFormulaRowWithoutANumberIsReportedWithItsWindowType) {
+    Insert({"窗型材 (窗号,名称,规格,数量,计算公式) values(8,'b','X60','1','6')",
+            "门窗 (编号,名称) values(8,'推拉窗')"});
+    try {
+        Gather({Window("1", "8", "21")});
+        ADD_FAILURE();
+    } catch (const NumericError& failure) {
+        EXPECT_STREQ(failure.what(),
+                     "门窗类型“推拉窗”有一行公式没有“编号”，请在“门窗公式设计”中打开这个类型并保存一次。");
+    }
+}
+
 TEST_F(DemandTest, FailureKeepsTheRowsBefore) {
     Insert({"窗型材 (窗号,编号,名称,规格,数量,计算公式) values(9,1,'a','X60','1','5')",
             "窗型材 (窗号,编号,规格,数量,计算公式) values(9,2,'X60','1','6')"});

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPushButton>
 
+#include "formula/composite.h"
 #include "platform/settings_store.h"
 #include "project/screens/frmAddGCMC.h"
 #include "project/screens/window_rows.h"
@@ -114,7 +115,7 @@ void frmOpenGC::Edit() {
         return;
     }
     const WindowEntry window = ToWindow(lvw_->Row(row));
-    if (window.IsComposite()) {
+    if (OpensAsComposite(window.typeNumber)) {
         UseDialogs().Message(this, QStringLiteral("组合门窗的编辑将在后续版本中提供。"), kTitle,
                              NoticeIcon::Information);
         return;
