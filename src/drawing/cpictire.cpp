@@ -36,42 +36,6 @@ bool CPictire::PointInBox(Point point, Point& cornerA, Point& cornerB) {
     return cornerA.x <= point.x && point.x <= cornerB.x && cornerA.y <= point.y && point.y <= cornerB.y;
 }
 
-void CPictire::DelLinesIn(Point& cornerA, Point& cornerB) {
-    lines_.DeleteWhere([&](const LineItem& item) {
-        return PointInBox(item.p1, cornerA, cornerB) || PointInBox(item.p2, cornerA, cornerB);
-    });
-}
-
-void CPictire::DelRecsIn(Point& cornerA, Point& cornerB) {
-    rectangles_.DeleteWhere([&](const RectangleItem& item) {
-        return PointInBox(item.p1, cornerA, cornerB) || PointInBox(item.p2, cornerA, cornerB);
-    });
-}
-
-void CPictire::DelDimsIn(Point& cornerA, Point& cornerB) {
-    dimensions_.DeleteWhere([&](const DimensionItem& item) {
-        return PointInBox(item.p1, cornerA, cornerB) || PointInBox(item.p2, cornerA, cornerB) ||
-               PointInBox(item.p3, cornerA, cornerB);
-    });
-}
-
-void CPictire::DelDirsIn(Point& cornerA, Point& cornerB) {
-    arrows_.DeleteWhere([&](const ArrowItem& item) {
-        return PointInBox(item.p1, cornerA, cornerB) || PointInBox(item.p2, cornerA, cornerB);
-    });
-}
-
-void CPictire::DelStringsIn(Point& cornerA, Point& cornerB) {
-    strings_.DeleteWhere([&](const TextItem& item) { return PointInBox(item.at, cornerA, cornerB); });
-}
-
-void CPictire::DelArcsIn(Point& cornerA, Point& cornerB) {
-    arcs_.DeleteWhere([&](const ArcItem& item) {
-        return PointInBox(item.p1, cornerA, cornerB) || PointInBox(item.p2, cornerA, cornerB) ||
-               PointInBox(item.p3, cornerA, cornerB);
-    });
-}
-
 void CPictire::ClearData() {
     lines_.Clear();
     rectangles_.Clear();

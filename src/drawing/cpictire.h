@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <span>
@@ -49,12 +50,12 @@ class CPictire {
 
     // Takes out the items of a kind of which any stored point is in the box. The two corners come back
     // ordered, as PointInBox leaves them.
-    void DelLinesIn(Point& cornerA, Point& cornerB);
-    void DelRecsIn(Point& cornerA, Point& cornerB);
-    void DelDimsIn(Point& cornerA, Point& cornerB);
-    void DelDirsIn(Point& cornerA, Point& cornerB);
-    void DelStringsIn(Point& cornerA, Point& cornerB);
-    void DelArcsIn(Point& cornerA, Point& cornerB);
+    void DelLinesIn(Point& cornerA, Point& cornerB) { DeleteIn(lines_, cornerA, cornerB); }
+    void DelRecsIn(Point& cornerA, Point& cornerB) { DeleteIn(rectangles_, cornerA, cornerB); }
+    void DelDimsIn(Point& cornerA, Point& cornerB) { DeleteIn(dimensions_, cornerA, cornerB); }
+    void DelDirsIn(Point& cornerA, Point& cornerB) { DeleteIn(arrows_, cornerA, cornerB); }
+    void DelStringsIn(Point& cornerA, Point& cornerB) { DeleteIn(strings_, cornerA, cornerB); }
+    void DelArcsIn(Point& cornerA, Point& cornerB) { DeleteIn(arcs_, cornerA, cornerB); }
 
     /// True when the point is in the box, edges included. Orders the corners first: cornerA takes the
     /// smaller x and y, cornerB the greater.
@@ -176,6 +177,13 @@ class CPictire {
     template <typename Item>
     void Add(PrimitiveList<Item>& list, const Item& item) {
         if (!list.Add(item)) TellFull();
+    }
+    template <typename Item>
+    static void DeleteIn(PrimitiveList<Item>& list, Point& cornerA, Point& cornerB) {
+        list.DeleteWhere([&](const Item& item) {
+            return std::ranges::any_of(
+                item.Points(), [&](const Point& point) { return PointInBox(point, cornerA, cornerB); });
+        });
     }
     void TellFull() const;
     void Paint(PaintTarget& target, const Box& source, const Box& destination, bool withTexts) const;

@@ -11,11 +11,17 @@
 namespace kalvane {
 namespace {
 
-/// "1,2,3,4," for the points of an item.
-std::string CoordinateList(std::initializer_list<Point> points) {
-    std::string list;
-    for (const Point& point : points) list += ShortText(point.x) + "," + ShortText(point.y) + ",";
-    return list;
+/// Inserts the items of one kind: their points and what `rest` gives in SQL, behind an insert up to "(".
+template <typename Item, typename Rest>
+void InsertItems(Connection& connection, std::string_view insert, const PrimitiveList<Item>& items,
+                 Rest rest) {
+    for (const Item& item : items) {
+        std::string statement(insert);
+        for (const Point& point : item.Points()) {
+            statement += ShortText(point.x) + "," + ShortText(point.y) + ",";
+        }
+        connection.Execute(statement + rest(item) + ")");
+    }
 }
 
 /// A walk over rows whose wanted columns are looked up once, and addressed by their place in that list.
@@ -79,37 +85,20 @@ void DeleteDrawing(Connection& connection, std::string_view number) {
 }
 
 void SavePrimitives(Connection& connection, std::string_view number, const CPictire& picture) {
-    const std::string end = std::string(number) + ")";
     InCommand(connection, [&] {
         for (const char* statement : {"Delete * from Line Where Bn=", "Delete * from Rectangle Where Bn=",
                                       "Delete * from Arrow Where Bn=", "Delete * from Dim Where Bn=",
                                       "Delete * from Strings Where Bn=", "Delete * from Arc where Bn="}) {
             connection.Execute(statement + std::string(number));
         }
-        for (const LineItem& item : picture.Lines()) {
-            connection.Execute("Insert into Line (x1,y1,x2,y2,Bn) values(" +
-                               CoordinateList({item.p1, item.p2}) + end);
-        }
-        for (const RectangleItem& item : picture.Rectangles()) {
-            connection.Execute("Insert into Rectangle (x1,y1,x2,y2,Bn) Values(" +
-                               CoordinateList({item.p1, item.p2}) + end);
-        }
-        for (const ArrowItem& item : picture.Arrows()) {
-            connection.Execute("Insert into Arrow (x1,y1,x2,y2,Bn) values(" +
-                               CoordinateList({item.p1, item.p2}) + end);
-        }
-        for (const DimensionItem& item : picture.Dimensions()) {
-            connection.Execute("Insert into Dim (x1,y1,x2,y2,x3,y3,Bn) values(" +
-                               CoordinateList({item.p1, item.p2, item.p3}) + end);
-        }
-        for (const TextItem& item : picture.Strings()) {
-            connection.Execute("Insert into strings (X1,Y1,Chars,Bn) values(" + CoordinateList({item.at}) +
-                               "'" + item.text + "'," + end);
-        }
-        for (const ArcItem& item : picture.Arcs()) {
-            connection.Execute("Insert into Arc (x1,y1,x2,y2,x3,y3,Bn) values(" +
-                               CoordinateList({item.p1, item.p2, item.p3}) + end);
-        }
+        const auto bn = [&](const auto&) { return std::string(number); };
+        InsertItems(connection, "Insert into Line (x1,y1,x2,y2,Bn) values(", picture.Lines(), bn);
+        InsertItems(connection, "Insert into Rectangle (x1,y1,x2,y2,Bn) Values(", picture.Rectangles(), bn);
+        InsertItems(connection, "Insert into Arrow (x1,y1,x2,y2,Bn) values(", picture.Arrows(), bn);
+        InsertItems(connection, "Insert into Dim (x1,y1,x2,y2,x3,y3,Bn) values(", picture.Dimensions(), bn);
+        InsertItems(connection, "Insert into strings (X1,Y1,Chars,Bn) values(", picture.Strings(),
+                    [&](const TextItem& item) { return "'" + item.text + "'," + std::string(number); });
+        InsertItems(connection, "Insert into Arc (x1,y1,x2,y2,x3,y3,Bn) values(", picture.Arcs(), bn);
     });
 }
 

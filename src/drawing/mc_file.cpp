@@ -1,8 +1,8 @@
 #include "drawing/mc_file.h"
 
 #include <array>
-#include <initializer_list>
 #include <sstream>
+#include <type_traits>
 #include <utility>
 
 #include "drawing/cpictire.h"
@@ -16,18 +16,24 @@ constexpr std::string_view kLineEnd = "\r\n";
 
 class Writer {
   public:
-    void Value(std::string_view text) { text_.append(text).append(kLineEnd); }
-
-    void Numbers(std::initializer_list<Point> points) {
-        for (const Point& point : points) {
-            Number(point.x);
-            Number(point.y);
+    /// The items of one kind below their keyword; nothing for a kind without items.
+    template <typename Item>
+    void Items(std::string_view keyword, const PrimitiveList<Item>& items) {
+        if (!items.Empty()) Value(keyword);
+        for (const Item& item : items) {
+            for (const Point& point : item.Points()) {
+                Number(point.x);
+                Number(point.y);
+            }
+            if constexpr (std::is_same_v<Item, TextItem>) Value(item.text);
         }
     }
 
     std::string Take() { return std::move(text_); }
 
   private:
+    void Value(std::string_view text) { text_.append(text).append(kLineEnd); }
+
     void Number(float value) {
         const std::string digits = ShortText(value);
         Value((digits.front() == '-' ? "" : " ") + digits + " ");
@@ -121,19 +127,11 @@ class Reader {
 
 std::string McText(const CPictire& picture) {
     Writer writer;
-    if (!picture.Lines().Empty()) writer.Value("Line");
-    for (const LineItem& item : picture.Lines()) writer.Numbers({item.p1, item.p2});
-    if (!picture.Rectangles().Empty()) writer.Value("Rec");
-    for (const RectangleItem& item : picture.Rectangles()) writer.Numbers({item.p1, item.p2});
-    if (!picture.Arrows().Empty()) writer.Value("Dir");
-    for (const ArrowItem& item : picture.Arrows()) writer.Numbers({item.p1, item.p2});
-    if (!picture.Dimensions().Empty()) writer.Value("Dim");
-    for (const DimensionItem& item : picture.Dimensions()) writer.Numbers({item.p1, item.p2, item.p3});
-    if (!picture.Strings().Empty()) writer.Value("String");
-    for (const TextItem& item : picture.Strings()) {
-        writer.Numbers({item.at});
-        writer.Value(item.text);
-    }
+    writer.Items("Line", picture.Lines());
+    writer.Items("Rec", picture.Rectangles());
+    writer.Items("Dir", picture.Arrows());
+    writer.Items("Dim", picture.Dimensions());
+    writer.Items("String", picture.Strings());
     return writer.Take();
 }
 

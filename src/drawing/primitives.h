@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 namespace kalvane {
@@ -12,10 +13,13 @@ struct Point {
     friend bool operator==(const Point&, const Point&) = default;
 };
 
+// What a drawing is made of. Points() are the stored points of an item, in the order of its columns.
+
 struct LineItem {
     Point p1;
     Point p2;
 
+    std::array<Point, 2> Points() const { return {p1, p2}; }
     friend bool operator==(const LineItem&, const LineItem&) = default;
 };
 
@@ -24,6 +28,7 @@ struct RectangleItem {
     Point p1;
     Point p2;
 
+    std::array<Point, 2> Points() const { return {p1, p2}; }
     friend bool operator==(const RectangleItem&, const RectangleItem&) = default;
 };
 
@@ -31,6 +36,7 @@ struct ArrowItem {
     Point p1;  ///< tail
     Point p2;  ///< head
 
+    std::array<Point, 2> Points() const { return {p1, p2}; }
     friend bool operator==(const ArrowItem&, const ArrowItem&) = default;
 };
 
@@ -40,6 +46,7 @@ struct DimensionItem {
     Point p2;  ///< measured point
     Point p3;  ///< sets the distance of the dimension line from the measured points
 
+    std::array<Point, 3> Points() const { return {p1, p2, p3}; }
     friend bool operator==(const DimensionItem&, const DimensionItem&) = default;
 };
 
@@ -48,6 +55,7 @@ struct TextItem {
     Point at;  ///< left edge of the text, middle of its height
     std::string text;
 
+    std::array<Point, 1> Points() const { return {at}; }
     friend bool operator==(const TextItem&, const TextItem&) = default;
 };
 
@@ -57,6 +65,7 @@ struct ArcItem {
     Point p2;  ///< end
     Point p3;  ///< direction
 
+    std::array<Point, 3> Points() const { return {p1, p2, p3}; }
     friend bool operator==(const ArcItem&, const ArcItem&) = default;
 };
 

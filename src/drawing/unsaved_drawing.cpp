@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <optional>
+#include <type_traits>
 
 #include "numeric/text.h"
 
@@ -25,25 +26,29 @@ void AppendNumber(std::string& text, float value) {
     text.append(digits.data(), end);
 }
 
-void AppendPoints(std::string& text, std::initializer_list<Point> points) {
-    for (const Point& point : points) {
-        text += ' ';
-        AppendNumber(text, point.x);
-        text += ' ';
-        AppendNumber(text, point.y);
-    }
-}
-
-void AppendItem(std::string& text, std::string_view kind, std::initializer_list<Point> points) {
-    text += kind;
-    AppendPoints(text, points);
-    text += '\n';
-}
-
 void AppendText(std::string& line, std::string_view text) {
     line += ' ';
     line += OnOneLine(text);
     line += '\n';
+}
+
+/// The items of one kind, each on a line: the kind, its coordinates, and the text of a text.
+template <typename Item>
+void AppendItems(std::string& text, std::string_view kind, const std::vector<Item>& items) {
+    for (const Item& item : items) {
+        text += kind;
+        for (const Point& point : item.Points()) {
+            for (const float value : {point.x, point.y}) {
+                text += ' ';
+                AppendNumber(text, value);
+            }
+        }
+        if constexpr (std::is_same_v<Item, TextItem>) {
+            AppendText(text, item.text);
+        } else {
+            text += '\n';
+        }
+    }
 }
 
 /// The coordinates at the front of a line, which are taken off it; nothing when one is missing.
@@ -93,20 +98,12 @@ std::string RecoveryText(const UnsavedDrawing& drawing) {
         text += kName;
         AppendText(text, drawing.name);
     }
-    for (const LineItem& item : drawing.items.lines) AppendItem(text, kLine, {item.p1, item.p2});
-    for (const RectangleItem& item : drawing.items.rectangles) {
-        AppendItem(text, kRectangle, {item.p1, item.p2});
-    }
-    for (const DimensionItem& item : drawing.items.dimensions) {
-        AppendItem(text, kDimension, {item.p1, item.p2, item.p3});
-    }
-    for (const ArrowItem& item : drawing.items.arrows) AppendItem(text, kArrow, {item.p1, item.p2});
-    for (const TextItem& item : drawing.items.strings) {
-        text += kString;
-        AppendPoints(text, {item.at});
-        AppendText(text, item.text);
-    }
-    for (const ArcItem& item : drawing.items.arcs) AppendItem(text, kArc, {item.p1, item.p2, item.p3});
+    AppendItems(text, kLine, drawing.items.lines);
+    AppendItems(text, kRectangle, drawing.items.rectangles);
+    AppendItems(text, kDimension, drawing.items.dimensions);
+    AppendItems(text, kArrow, drawing.items.arrows);
+    AppendItems(text, kString, drawing.items.strings);
+    AppendItems(text, kArc, drawing.items.arcs);
     return text;
 }
 
