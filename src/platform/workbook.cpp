@@ -3,6 +3,7 @@
 #include <unistd.h>
 #include <xlsxwriter.h>
 
+#include <cstdint>
 #include <cstdlib>
 
 #include "numeric/error.h"
@@ -33,6 +34,8 @@ class TemporaryFile {
 void Check(lxw_error result) {
     if (result != LXW_NO_ERROR) throw FileError(std::string("电子表格不能写入：") + lxw_strerror(result));
 }
+
+constexpr std::uint8_t kA4 = 9;  // the format's number of the paper size
 
 lxw_row_t RowIndex(int row) {
     return static_cast<lxw_row_t>(row - 1);
@@ -71,33 +74,13 @@ void Sheet::DrawBorders(int firstRow, int firstColumn, int lastRow, int lastColu
     }
 }
 
-const Sheet::Cell& Sheet::At(int row, int column) const {
-    static const Cell kEmpty;
-    const auto found = cells_.find({row, column});
-    return found == cells_.end() ? kEmpty : found->second;
-}
-
-const std::string& Sheet::Text(int row, int column) const {
-    for (const Merge& merge : merges_) {
-        if (merge.firstRow == row && merge.firstColumn == column) return merge.text;
-    }
-    return At(row, column).text;
-}
-
-bool Sheet::IsNumber(int row, int column) const {
-    return At(row, column).isNumber;
-}
-
-bool Sheet::HasBorder(int row, int column) const {
-    return At(row, column).hasBorder;
-}
-
 void Workbook::Save(const std::filesystem::path& path) const {
     const TemporaryFile file;
     lxw_workbook* book = workbook_new(file.Path().c_str());
     if (book == nullptr) throw FileError("电子表格不能写入。");
     lxw_format* centred = workbook_add_format(book);
     format_set_align(centred, LXW_ALIGN_CENTER);
+    format_set_align(centred, LXW_ALIGN_VERTICAL_CENTER);
     lxw_format* bordered = workbook_add_format(book);
     format_set_border(bordered, LXW_BORDER_THIN);
     lxw_error failure = LXW_NO_ERROR;
@@ -110,7 +93,20 @@ void Workbook::Save(const std::filesystem::path& path) const {
         for (const auto& [column, width] : sheet.widths_) {
             note(worksheet_set_column(target, ColumnIndex(column), ColumnIndex(column), width, nullptr));
         }
+        if (sheet.headingRow_ > 0) {
+            const lxw_row_t heading = RowIndex(sheet.headingRow_);
+            worksheet_set_paper(target, kA4);
+            worksheet_fit_to_pages(target, 1, 0);
+            note(worksheet_repeat_rows(target, heading, heading));
+            worksheet_freeze_panes(target, heading + 1, 0);
+        }
         for (const Sheet::Merge& merge : sheet.merges_) {
+            if (merge.firstRow == merge.lastRow && merge.firstColumn == merge.lastColumn) {
+                // The library refuses to merge a single cell.
+                note(worksheet_write_string(target, RowIndex(merge.firstRow), ColumnIndex(merge.firstColumn),
+                                            merge.text.c_str(), centred));
+                continue;
+            }
             note(worksheet_merge_range(target, RowIndex(merge.firstRow), ColumnIndex(merge.firstColumn),
                                        RowIndex(merge.lastRow), ColumnIndex(merge.lastColumn),
                                        merge.text.c_str(), centred));

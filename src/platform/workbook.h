@@ -19,7 +19,7 @@ class Sheet {
     /// A number cell when the whole text is a number, else a text cell, as when an operator types it.
     void WriteValue(int row, int column, std::string text);
 
-    /// Makes one centred cell of a range and writes a text to it. Ranges must not overlap.
+    /// Makes one cell of a range, centred both ways, and writes a text to it. Ranges must not overlap.
     void MergeCentred(int firstRow, int firstColumn, int lastRow, int lastColumn, std::string text);
 
     /// Width in characters.
@@ -28,10 +28,9 @@ class Sheet {
     /// Thin lines around every cell of a range, empty ones too; nothing when the range is empty.
     void DrawBorders(int firstRow, int firstColumn, int lastRow, int lastColumn);
 
-    /// Text of a cell, or of the merged range that begins there; empty when nothing was written.
-    const std::string& Text(int row, int column) const;
-    bool IsNumber(int row, int column) const;
-    bool HasBorder(int row, int column) const;
+    /// Sets the sheet up for A4 paper, as wide as one page, and for a table of which `headingRow` holds the
+    /// headings: it is repeated on every page, and stays in view with the rows above it.
+    void SetUpPage(int headingRow) { headingRow_ = headingRow; }
 
   private:
     friend class Workbook;
@@ -46,11 +45,10 @@ class Sheet {
         std::string text;
     };
 
-    const Cell& At(int row, int column) const;
-
     std::map<std::pair<int, int>, Cell> cells_;  // by row, column
     std::vector<Merge> merges_;
     std::map<int, double> widths_;
+    int headingRow_ = 0;  // 0 without page set-up
 };
 
 /// A spreadsheet in the making, kept in memory until it is saved as an .xlsx file.
@@ -58,8 +56,6 @@ class Workbook {
   public:
     /// Adds an empty sheet behind the others; the reference stays valid as long as the workbook.
     Sheet& AddSheet() { return sheets_.emplace_back(); }
-
-    const std::deque<Sheet>& Sheets() const { return sheets_; }
 
     /// Writes the file as one step: a failure throws FileError and leaves an older file as it was.
     void Save(const std::filesystem::path& path) const;

@@ -17,6 +17,7 @@ struct XlsxSheet {
     std::string centred;           ///< likewise
     std::string merges;            ///< such as "A1:E1 "
     std::map<int, double> widths;  ///< by column from 1; a program's own cell margin is part of it
+    std::string page;              ///< paper, pages wide and high, repeated rows, rows kept in view
 };
 
 /// Reads an .xlsx file with an archive and an XML library, by the format's own rules: none of our code and
@@ -71,6 +72,13 @@ class XlsxReader {
                 sheet.widths[i] = columns.attribute("width").as_double();
             }
         }
+        const pugi::xml_node page = root.child("pageSetup");
+        const std::string repeated =
+            Nth(Part("xl/workbook.xml").child("workbook").child("definedNames"), number - 1).child_value();
+        sheet.page = std::string(page.attribute("paperSize").value()) + " " +
+                     page.attribute("fitToWidth").as_string("1") + " x " +
+                     page.attribute("fitToHeight").as_string("1") + " " + repeated + " " +
+                     root.child("sheetViews").first_child().child("pane").attribute("ySplit").value();
         return sheet;
     }
 

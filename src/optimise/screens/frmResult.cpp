@@ -6,9 +6,8 @@
 
 #include "optimise/piece_labels.h"
 #include "optimise/plan.h"
+#include "optimise/plan_file.h"
 #include "optimise/plan_report.h"
-#include "optimise/plan_text.h"
-#include "optimise/plan_workbook.h"
 #include "optimise/plan_yield.h"
 #include "optimise/screens/cut_diagram_view.h"
 #include "optimise/screens/yield_columns.h"
