@@ -13,17 +13,6 @@ constexpr std::array<std::string_view, kRightCount> kCaptions = {
     "备份/恢复", "设置",   "更改背景", "用户管理", "更改密码", "仓库管理",
 };
 
-/// Character of a UTF-8 text by position; only its first byte is of interest.
-char CharacterAt(std::string_view text, std::size_t position) {
-    for (const char byte : text) {
-        const bool continues = (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-        if (continues) continue;
-        if (position == 0) return byte;
-        --position;
-    }
-    return '\0';
-}
-
 }  // namespace
 
 std::string_view RightCaption(Right right) {
@@ -32,7 +21,7 @@ std::string_view RightCaption(Right right) {
 
 bool IsGranted(std::string_view userAuth, Right right) {
     return CharCount(userAuth) == kRightCount &&
-           CharacterAt(userAuth, static_cast<std::size_t>(right)) == '1';
+           MidChars(userAuth, static_cast<std::size_t>(right) + 1, 1) == "1";
 }
 
 }  // namespace kalvane

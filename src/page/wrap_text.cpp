@@ -10,13 +10,6 @@ constexpr std::string_view kOpeningMarks = "（《「『【“‘";
 /// A break behind these keeps the terms of a pattern or a path whole.
 constexpr std::string_view kDividers = "+,;/|";
 
-/// Bytes of the first character; of text that is no UTF-8, one.
-std::size_t CharacterLength(std::string_view text) {
-    std::size_t length = 1;
-    while (length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80) ++length;
-    return length;
-}
-
 /// Chinese characters and marks, full-width forms: all of three bytes from U+2E80 on, or of four.
 bool IsWide(std::string_view character) {
     return character >= std::string_view("\xE2\xBA\x80");
@@ -35,10 +28,10 @@ bool MayBreakBetween(std::string_view before, std::string_view after) {
 
 /// Length of the longest beginning of `text` without a place to break.
 std::size_t WordLength(std::string_view text) {
-    std::size_t length = CharacterLength(text);
-    std::string_view before = text.substr(0, length);
+    std::string_view before = LeftChars(text, 1);
+    std::size_t length = before.size();
     while (length < text.size()) {
-        const std::string_view after = text.substr(length, CharacterLength(text.substr(length)));
+        const std::string_view after = LeftChars(text.substr(length), 1);
         if (MayBreakBetween(before, after)) break;
         length += after.size();
         before = after;
@@ -81,7 +74,7 @@ class Wrapper {
 
     void Characters(std::string_view word) {
         while (!word.empty()) {
-            const std::string_view character = word.substr(0, CharacterLength(word));
+            const std::string_view character = LeftChars(word, 1);
             word.remove_prefix(character.size());
             const float width = page_.TextWidth(character);
             if (used_ + width > width_ && !line_.empty()) {

@@ -43,13 +43,6 @@ class Converter {
     iconv_t handle_;
 };
 
-/// The first character of a UTF-8 text.
-std::string_view FirstCharacter(std::string_view utf8) {
-    std::size_t length = 1;
-    while (length < utf8.size() && (static_cast<unsigned char>(utf8[length]) & 0xC0) == 0x80) ++length;
-    return utf8.substr(0, length);
-}
-
 /// Chinese text in UTF-8 always has one. A single Chinese character in GBK can pass for a letter of two
 /// bytes, which no file of this trade holds.
 bool HasCharacterOfThreeBytes(std::string_view utf8) {
@@ -64,7 +57,7 @@ std::string ToGbk(std::string_view utf8) {
     std::string result;
     const std::size_t used = converter.Convert(utf8, result);
     if (used < utf8.size()) {
-        throw CodePageError("文件不能保存字符“" + std::string(FirstCharacter(utf8.substr(used))) +
+        throw CodePageError("文件不能保存字符“" + std::string(LeftChars(utf8.substr(used), 1)) +
                             "”，请改用其他文字。");
     }
     return result;
@@ -94,7 +87,7 @@ std::vector<std::int16_t> CodePageWords(std::string_view utf8) {
     Converter converter("GBK", "UTF-8");
     std::vector<std::int16_t> words;
     while (!utf8.empty()) {
-        const std::string_view character = FirstCharacter(utf8);
+        const std::string_view character = LeftChars(utf8, 1);
         std::string bytes;
         if (converter.Convert(character, bytes) < character.size() || bytes.empty()) bytes = "?";
         unsigned word = static_cast<unsigned char>(bytes[0]);

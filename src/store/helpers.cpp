@@ -50,11 +50,11 @@ std::string MakeKey(std::string_view kind, std::string_view id) {
 }
 
 std::string KeyKind(std::string_view key) {
-    return std::string(key.substr(0, 1));
+    return std::string(LeftChars(key, 1));
 }
 
 std::string KeyId(std::string_view key) {
-    return std::string(key.empty() ? key : key.substr(1));
+    return std::string(MidChars(key, 2));
 }
 
 void LoadRowById(Connection& connection, std::string_view table, std::string_view id, FieldSlots& slots) {

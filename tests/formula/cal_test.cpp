@@ -157,6 +157,7 @@ TEST(Labels, PutInLongestNameFirst) {
         {"b+上亮高", {" 上亮高 ", "B"}, {" 400", "100"}, 500},
         {"x", {"yy", "Z1", "X"}, {"1", "2", "z1"}, 1},  // Z1 had its turn; Z separates
         {"x", {"X", "Y"}, {"y", "5"}, 5},  // a value in small letters is a name to the next label
+        {"Φ*2", {"φ"}, {"5"}, 10},
         {"x", {"X", "x"}, {"1", "2"}, 1},  // equal names: the first after sorting
         {"3*B", {"B"}, {"-2"}, -2},        // 3 times an absent operand, minus 2
     };

@@ -57,7 +57,24 @@ TEST(Number, RoundsTiesToEvenAndChecksItsWidth) {
 
 TEST(Text, CountsAndCapitalisesCharacters) {
     EXPECT_EQ(CharCount("h1上亮"), 4U);
-    EXPECT_EQ(UpperCase("h1上ａｚＢé"), "H1上ＡＺＢé");
+    const std::pair<const char*, const char*> pairs[] = {
+        {"h1上ａｚＢ", "H1上ＡＺＢ"}, {"αρσωφ", "ΑΡΣΩΦ"},    {"абпряё", "АБПРЯЁ"}, {"ⅰⅴⅹ", "ⅠⅤⅩ"},
+        {"āéǎùüêńňǹḿ", "ĀÉǍÙÜÊŃŇǸḾ"}, {"亮÷ς①。", "亮÷ς①。"}};  // no letters, or none with a capital in use
+    for (const auto& [small, capital] : pairs) {
+        EXPECT_EQ(UpperCase(small), capital);
+        EXPECT_TRUE(EqualIgnoringCase(small, capital)) << small;
+        EXPECT_FALSE(EqualIgnoringCase(small, UpperCase(capital) + "x"));
+    }
+    for (const char* other : {"фп", "хР", "ф", "ф亮"}) EXPECT_FALSE(EqualIgnoringCase("фР", other)) << other;
+    EXPECT_FALSE(EqualIgnoringCase("\x80\x80\x80\x80", "\x80\x80\x80\x81"));  // no UTF-8, and an end
+    const std::string_view text = "h上ф亮";
+    EXPECT_EQ(std::string(LeftChars(text, 2)) + "|" + std::string(RightChars(text, 3)) + "|" +
+                  std::string(MidChars(text, 2, 2)) + "|" + std::string(MidChars(text, 3)),
+              "h上|上ф亮|上ф|ф亮");
+    EXPECT_EQ(std::string(LeftChars(text, 9)) + std::string(RightChars(text, 9)) +
+                  std::string(MidChars(text, 5)) + std::string(MidChars(text, 9, 9)) +
+                  std::string(LeftChars(text, 0)),
+              "h上ф亮h上ф亮");
     EXPECT_EQ(Trim("  a b "), "a b");
     EXPECT_TRUE(IsUtf8("上亮"));
     for (const char* text : {"\xC9\xCF", "\xC0\x80", "\xED\xA0\x80", "\xE4\xB8"}) EXPECT_FALSE(IsUtf8(text));
