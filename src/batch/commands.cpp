@@ -66,8 +66,8 @@ void GatherProject(Connection& connection, const std::string& project) {
     GatherDemand(connection, ListDemandWindows(connection, ProjectNumber(connection, project)));
 }
 
-OptimiseSettings SettingsFor(const RunOptions& options) {
-    OptimiseSettings settings = ReadOptimiseSettings(SettingsStore(SettingsStore::DefaultFile()));
+OptimiseSettings SettingsFor(const RunOptions& options, Notice& notice) {
+    OptimiseSettings settings = ReadOptimiseSettings(SettingsStore(SettingsStore::DefaultFile()), notice);
     settings.CLC = options.CLC.value_or(settings.CLC);
     settings.LTC = options.LTC.value_or(settings.LTC);
     settings.CKK = options.CKK.value_or(settings.CKK);
@@ -152,8 +152,8 @@ void FolderCommands::Plan(const std::string& project, const RunOptions& options)
     LockedStore store(folder_);
     LineNotice notice;
     GatherProject(store.Get(), project);
-    RunOptimisation(store.Get(), SettingsFor(options), SchemeOf(options), ListMaterials(store.Get()), notice,
-                    {});
+    RunOptimisation(store.Get(), SettingsFor(options, notice), SchemeOf(options), ListMaterials(store.Get()),
+                    notice, {});
     PrintPlan(store.Get());
 }
 
@@ -163,7 +163,7 @@ void FolderCommands::Cut(const std::filesystem::path& demandFile, const std::str
     ReadDemandFile(demandFile, rows);
     LockedStore store(folder_);
     LineNotice notice;
-    RunManual(store.Get(), SettingsFor(options), SchemeOf(options), name, rows, notice, {});
+    RunManual(store.Get(), SettingsFor(options, notice), SchemeOf(options), name, rows, notice, {});
     PrintPlan(store.Get());
 }
 

@@ -5,6 +5,7 @@
 
 namespace kalvane {
 
+class Notice;
 class SettingsStore;
 
 /// Options of the optimisers, in millimetres where lengths are meant.
@@ -21,8 +22,9 @@ struct OptimiseSettings {
     std::int16_t PieceAllowance() const;
 };
 
-/// Reads all seven keys. Throws NumericError when a stored number does not fit its width.
-OptimiseSettings ReadOptimiseSettings(const SettingsStore& store);
+/// Reads all seven keys. Those whose text is no number, or does not fit its width, keep their default and are
+/// named to the operator.
+OptimiseSettings ReadOptimiseSettings(const SettingsStore& store, Notice& notice);
 
 /// Saves all seven keys, each number as trimmed text.
 void WriteOptimiseSettings(SettingsStore& store, const OptimiseSettings& settings);

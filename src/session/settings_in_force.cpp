@@ -26,14 +26,4 @@ void ReadOutputSettings(AppState& state, std::int16_t windCheckDefault) {
     state.windCheckOption = ReadInt16(*state.settings, "FYOPTION", windCheckDefault);
 }
 
-void ReadOptimiserOptions(AppState& state, Notice& notice) {
-    try {
-        state.optimise = ReadOptimiseSettings(*state.settings);
-    } catch (const NumericError& error) {
-        state.optimise = OptimiseSettings();
-        notice.Show(std::string("优化选项不能读取：") + error.what() + "。已改用默认值。", "提示",
-                    NoticeIcon::Warning);
-    }
-}
-
 }  // namespace kalvane

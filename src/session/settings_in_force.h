@@ -2,7 +2,6 @@
 
 #include <cstdint>
 
-#include "platform/notice.h"
 #include "session/app_state.h"
 
 namespace kalvane {
@@ -11,8 +10,5 @@ namespace kalvane {
 /// saved: it differs between the start of the program (1) and the settings screen (0). A stored text that is
 /// no 16-bit number counts as never saved. Needs `state.settings`.
 void ReadOutputSettings(AppState& state, std::int16_t windCheckDefault);
-
-/// Reads the optimiser's options. A stored number that does not fit leaves the defaults and is told.
-void ReadOptimiserOptions(AppState& state, Notice& notice);
 
 }  // namespace kalvane

@@ -3,9 +3,12 @@
 #include "numeric/error.h"
 #include "optimise/option_form.h"
 #include "platform/settings_store.h"
+#include "support/recording_notice.h"
 #include "support/temp_folder.h"
 
 namespace kalvane::test {
+
+namespace {
 
 /// All numbers of the settings as one text, for short tables.
 std::string TextOf(const OptimiseSettings& settings) {
@@ -14,26 +17,34 @@ std::string TextOf(const OptimiseSettings& settings) {
     return text;
 }
 
-TEST(OptimiseSettingsTest, ReadsEachKeyByItsOwnRule) {
+}  // namespace
+
+TEST(OptimiseSettingsTest, ReadsEachKeyByItsOwnRuleOrItsDefault) {
     const struct {
         const char* key;
         const char* text;
-        const char* expected;  // empty: refused
-    } rows[] = {{"CLC", " 6000.9 ", "6000 0 0 0 1 20 "},   {"CLC", "32768", ""},
-                {"CLC", "-0.5", "-1 0 0 0 1 20 "},         {"LTC", "10.99", "0 10 0 0 1 20 "},
-                {"COUNT", "50000.7", "0 0 0 50000 1 20 "}, {"YHBL", "0.95abc", "0 0 0 0 0.95 20 "},
-                {"YHBL", "all", "0 0 0 0 0 20 "},          {"NODES", "many", ""},
-                {"NODES", "41.5", "0 0 0 0 1 42 "}};
+        const char* expected;
+        const char* complaint = "";
+    } rows[] = {
+        {"CLC", " 6000.9 ", "6000 10 0 0 1 20 "},
+        {"CLC", "32768", "0 10 0 0 1 20 ", "材料长度（CLC）的值“32768”超出范围，改用 0。\n"},
+        {"CLC", "-0.5", "-1 10 0 0 1 20 "},
+        {"CKK", "5mm", "0 10 0 0 1 20 ", "切口宽度（CKK）的值“5mm”不是数字，改用 0。\n"},
+        {"COUNT", "50000.7", "0 10 0 50000 1 20 "},
+        {"YHBL", "0.95abc", "0 10 0 0 0.95 20 "},
+        {"YHBL", "all", "0 10 0 0 0 20 "},
+        {"NODES", "99999", "0 10 0 0 1 20 ", "控制优化结点数（NODES）的值“99999”超出范围，改用 20。\n"},
+        {"NODES", "41.5", "0 10 0 0 1 42 "}};
     for (const auto& row : rows) {
         const TempFolder folder;
         SettingsStore store(folder / "settings");
+        store.Save("Tesmar", "YHOPTION", "LTC", "10.99");
         store.Save("Tesmar", "YHOPTION", row.key, row.text);
-        std::string read;
-        try {
-            read = TextOf(ReadOptimiseSettings(store));
-        } catch (const NumericError&) {
-        }
-        EXPECT_EQ(read, row.expected) << row.key << " " << row.text;
+        RecordingNotice notice;
+        EXPECT_EQ(TextOf(ReadOptimiseSettings(store, notice)), row.expected) << row.key << " " << row.text;
+        const std::string shown = notice.shown.empty() ? "" : notice.shown[0];
+        EXPECT_EQ(shown.empty(), *row.complaint == '\0') << shown;
+        EXPECT_NE(shown.find(row.complaint), std::string::npos) << shown;
     }
 }
 

@@ -164,7 +164,7 @@ MDIMain::MDIMain() : area_(new PictureArea(this)) {
 void MDIMain::Load() {
     MessageNotice notice(this);
     ReadOutputSettings(App(), kWindCheckAtStart);
-    ReadOptimiserOptions(App(), notice);
+    App().optimise = ReadOptimiseSettings(*App().settings, notice);
     OpenStockStore(App(), notice);
     OpenMainStore(App(), notice);
     ApplyRights();

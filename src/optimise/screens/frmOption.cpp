@@ -6,7 +6,6 @@
 #include <QVBoxLayout>
 
 #include "session/app_state.h"
-#include "session/settings_in_force.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/digit_filter.h"
@@ -63,7 +62,7 @@ void frmOption::AddBox(QFormLayout& fields, OptionField field, const char* name,
 
 void frmOption::Load() {
     MessageNotice notice(this);
-    ReadOptimiserOptions(App(), notice);
+    App().optimise = ReadOptimiseSettings(*App().settings, notice);
     const OptionTexts texts = OptionTextsOf(App().optimise);
     for (std::size_t i = 0; i < texts.size(); ++i) boxes_[i]->setText(ToQt(texts[i]));
 }
