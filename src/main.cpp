@@ -28,11 +28,11 @@ int main(int argc, char* argv[]) {
         App().folder = std::filesystem::current_path();
         UseScreenMemory(&settings, ToQt(App().folder.string()));
         MessageNotice notice(nullptr);
-        TellReadOnlyFolder(App(), notice);
+        WarnOfReadOnlyFolder(App(), notice);
         CreateMissingStores(App().folder);
     });
     RunMarker run(App().folder);
-    App().checkStores = run.Stands();
+    App().checkStores = run.Exists();
 
     frmLogin().exec();
     if (!App().loginOK) return 0;

@@ -14,14 +14,14 @@ struct CompanySettings {
     bool textOutput = false;      ///< outputs go to a text file, else to a spreadsheet
     bool shortWindCheck = false;  ///< the wind check uses the short model, else the standard one
     std::string mainStore;        ///< paths for the operator's information; the stores are opened from
-    std::string stockStore;       ///< the start-up folder whatever stands here
+    std::string stockStore;       ///< the start-up folder whatever is entered here
 };
 
-/// Reads the settings. The two choices are read into `state` anew, and the wind check counts as standard here
-/// when it was never saved, unlike at the start of the program.
+/// Reads the settings. The two choices are read into `state` again, and the wind check counts as standard
+/// here when it was never saved, unlike at the start of the program.
 CompanySettings LoadCompanySettings(AppState& state);
 
-/// Saves the settings as they stand and brings the two choices into force. Throws FileError when the settings
+/// Saves the settings as they are and puts the two choices into force. Throws FileError when the settings
 /// cannot be written.
 void SaveCompanySettings(AppState& state, const CompanySettings& settings);
 

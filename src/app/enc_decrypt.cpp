@@ -21,8 +21,8 @@ std::uint16_t FromDigits(int first, int second, int third, int fourth) {
     return static_cast<std::uint16_t>(first << 12 | second << 8 | third << 4 | fourth);
 }
 
-/// The two halves of each pair of neighbours swap interleaved digits. The pass goes upwards, so a word that
-/// was mixed with its left neighbour goes on to mix with the right one.
+/// The two halves of each pair of neighbours swap interleaved digits. The pass runs upwards, so a word that
+/// was mixed with its left neighbour is mixed with the right one next.
 void Mix(Words& words) {
     for (std::size_t i = 1; i < words.size(); ++i) {
         const std::uint16_t p = words[i - 1];

@@ -10,12 +10,12 @@ namespace kalvane {
 /// The one key that the login, the user administration and the change of password scramble with.
 inline constexpr std::int16_t kPasswordKey = -21473;
 
-/// Scrambles passwords so that they do not lie in plain sight. A text is taken as 16-bit words, the codes of
+/// Scrambles passwords so that they are not stored in clear. A text is taken as 16-bit words, the codes of
 /// its characters in the system's code page; its scrambled form has four capital hexadecimal digits per
 /// character. Texts are UTF-8. Nothing here fails.
 ///
-/// The mixing pass is not its own inverse, so the Dec operations do not bring back what the Enc operations
-/// were given: a password is checked by scrambling what was typed and comparing.
+/// The mixing pass is not its own inverse, so the Dec operations do not restore what the Enc operations were
+/// given: a password is checked by scrambling what was typed and comparing.
 class clsEncDecrypt {
   public:
     /// Scrambled form of `text`; empty for fewer than two characters.

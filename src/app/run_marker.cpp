@@ -12,7 +12,7 @@ RunMarker::~RunMarker() {
     if (isSet_) std::filesystem::remove(file_, ignored);
 }
 
-bool RunMarker::Stands() const {
+bool RunMarker::Exists() const {
     std::error_code ignored;
     return std::filesystem::exists(file_, ignored);
 }
@@ -22,7 +22,7 @@ void RunMarker::Set() {
         WriteFileAtomically(file_, "");
         isSet_ = true;
     } catch (const FileError&) {
-        // Told in the header.
+        // No failure: see Set.
     }
 }
 

@@ -4,8 +4,8 @@
 
 namespace kalvane {
 
-/// Tells at a start whether the last run on the folder ended cleanly: a file stands there while the program
-/// runs, and a killed program leaves it.
+/// Shows at a start whether the last run on the folder ended cleanly: the program keeps a file there while it
+/// runs, and a killed program leaves it behind.
 class RunMarker {
   public:
     explicit RunMarker(std::filesystem::path folder);
@@ -15,10 +15,10 @@ class RunMarker {
     ~RunMarker();
 
     /// True while a run has not ended cleanly; this one too, once begun.
-    bool Stands() const;
+    bool Exists() const;
 
     /// Begins the run. Call once the folder is known to be used by no other program. A file that cannot be
-    /// written is no failure: the next start then looks no closer than usual.
+    /// written is no failure: the next start then makes no extra checks.
     void Set();
 
   private:

@@ -36,8 +36,9 @@ std::filesystem::path SoundCopy(const std::filesystem::path& file, StoreKind kin
     return {};
 }
 
-/// Opens a store. A damaged or missing one is told with the way back: the newest copy, put in its place after
-/// a yes. It is never replaced without one, and never lost. Null when the operator wants no copy.
+/// Opens a store. A damaged or missing one is reported with the way to recover it: the newest copy takes its
+/// place if the operator agrees. It is never replaced otherwise, and never lost. Null when the operator wants
+/// no copy.
 std::unique_ptr<Connection> OpenOrReplace(const std::filesystem::path& file, StoreKind kind, bool check,
                                           const std::string& complaint, Notice& notice) {
     try {
@@ -59,7 +60,7 @@ std::unique_ptr<Connection> OpenOrReplace(const std::filesystem::path& file, Sto
     }
 }
 
-/// Null after a failure, which is told.
+/// Null after a failure, which is reported.
 std::unique_ptr<Connection> OpenStore(const AppState& state, const char* fileName, StoreKind kind,
                                       const std::string& name, Notice& notice) {
     const std::filesystem::path file = state.folder / fileName;
@@ -86,7 +87,7 @@ std::string TextOf(const std::unique_ptr<Connection>& connection) {
 
 }  // namespace
 
-void TellReadOnlyFolder(const AppState& state, Notice& notice) {
+void WarnOfReadOnlyFolder(const AppState& state, Notice& notice) {
     if (IsWritableFolder(state.folder)) return;
     notice.Show("启动文件夹“" + state.folder.string() + "”不能写入。数据可以查看，但任何修改都不能保存。",
                 "提示", NoticeIcon::Warning);

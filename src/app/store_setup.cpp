@@ -21,7 +21,7 @@ void FillUsers(Connection& users) {
     AddUserAccount(users, "user", "user888", "000111001011");
 }
 
-/// Makes a store under a passing name, fills it, and gives it its own name only then.
+/// Makes a store under a temporary name, fills it, and only then gives it its own name.
 void CreateWhole(const std::filesystem::path& file, StoreKind kind,
                  const std::function<void(Connection&)>& fill) {
     if (std::filesystem::exists(file) || IsLost(file)) return;

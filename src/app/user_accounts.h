@@ -16,7 +16,7 @@ struct UserAccount {
     std::string rights;    ///< twelve characters, "1" for granted (app/rights.h)
 };
 
-/// The one user who cannot be deleted, told by exact comparison.
+/// The one user who cannot be deleted; compared exactly.
 inline constexpr std::string_view kAdministrator = "Admin";
 
 // All take the open user store and throw StoreError, also for a name with a single quote, which breaks the

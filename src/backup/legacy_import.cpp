@@ -58,7 +58,7 @@ void RebuildDrawings(Connection& main, const CommandScope& scope, Notice& notice
     }
     Cursor types = main.OpenCursor("Select * from " + std::string(kWindowTypes));
     const auto drawingColumn = static_cast<std::size_t>(types.FieldIndex("图号"));
-    // Ids need not be unique, so the rows are written anew rather than updated by their id.
+    // Ids need not be unique, so the rows are written again rather than updated by their id.
     main.Execute("Delete * from " + std::string(kWindowTypes));
     TableWriter writer(main, kWindowTypes);
     for (std::int64_t number = 1; !types.Eof(); types.MoveNext(), ++number) {

@@ -6,7 +6,7 @@
 
 namespace kalvane {
 
-/// Writes what core routines tell the operator to standard error, one line each.
+/// Writes the messages of core routines to standard error, one line each.
 class LineNotice : public Notice {
   public:
     void Show(const std::string& text, const std::string& title, NoticeIcon) override {

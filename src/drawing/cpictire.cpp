@@ -14,19 +14,19 @@
 namespace kalvane {
 namespace {
 
-constexpr int kMostTellings = 50;
+constexpr int kMostFullNotices = 50;
 constexpr std::uintmax_t kLargestFile = 64U << 20U;  // a full drawing takes a tenth of a megabyte
 
 }  // namespace
 
-void CPictire::TellFull() const {
+void CPictire::ReportFull() const {
     notice_->Show("数组超出范围,请与程序员联系", "#Error", NoticeIcon::None);
 }
 
-CPictire::TellingLimit::TellingLimit(CPictire& picture)
+CPictire::FullNoticeLimit::FullNoticeLimit(CPictire& picture)
     : picture_(picture),
       all_(picture.notice_),
-      limited_(*all_, kMostTellings, "后面还有超出范围的图元，不再逐个提示。") {
+      limited_(*all_, kMostFullNotices, "后面还有超出范围的图元，不再逐个提示。") {
     picture_.notice_ = &limited_;
 }
 
@@ -82,7 +82,7 @@ void CPictire::SaveFileEx(Connection& connection, std::string_view number, std::
 }
 
 void CPictire::OpenFileEX(Connection& connection, std::string_view number) {
-    const TellingLimit limit(*this);
+    const FullNoticeLimit limit(*this);
     LoadPrimitives(connection, number, *this);
 }
 
@@ -98,7 +98,7 @@ void CPictire::Open_File(const std::filesystem::path& path) {
     dimensions_.Clear();
     arrows_.Clear();
     strings_.Clear();
-    const TellingLimit limit(*this);
+    const FullNoticeLimit limit(*this);
     ReadMcText(text, *this);
 }
 

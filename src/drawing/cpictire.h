@@ -28,11 +28,11 @@ class CPictire {
     /// `notice` must outlive the drawing and its copies.
     explicit CPictire(Notice& notice) : notice_(&notice) {}
 
-    /// While it lives, the operator is told of the first fifty items that find their kind full, then once
-    /// that there are more: for loads, where each box would have to be confirmed before the next.
-    class TellingLimit;
+    /// While it lives, only the first fifty items that find their kind full are reported, then once that
+    /// there are more: for loads, where each message would have to be confirmed before the next.
+    class FullNoticeLimit;
 
-    // Adds one item. When the kind is full the operator is told, the item is dropped and work goes on.
+    // Adds one item. When the kind is full, that is reported and the item is dropped.
     void AddLine(const LineItem& item) { Add(lines_, item); }
     void AddRec(const RectangleItem& item) { Add(rectangles_, item); }
     void AddDim(const DimensionItem& item) { Add(dimensions_, item); }
@@ -48,8 +48,8 @@ class CPictire {
     void DelString(int index) { strings_.DeleteAt(index); }
     void DelArc(int index) { arcs_.DeleteAt(index); }
 
-    // Takes out the items of a kind of which any stored point is in the box. The two corners come back
-    // ordered, as PointInBox leaves them.
+    // Takes out the items of a kind of which any stored point is in the box. The two corners are
+    // left ordered, as PointInBox does.
     void DelLinesIn(Point& cornerA, Point& cornerB) { DeleteIn(lines_, cornerA, cornerB); }
     void DelRecsIn(Point& cornerA, Point& cornerB) { DeleteIn(rectangles_, cornerA, cornerB); }
     void DelDimsIn(Point& cornerA, Point& cornerB) { DeleteIn(dimensions_, cornerA, cornerB); }
@@ -86,7 +86,7 @@ class CPictire {
     void SetXY(float xScale, float yScale);
 
     /// Replaces what the library holds under that number. The index row in 图 is the caller's, so the name is
-    /// not looked at. Throws StoreError when a statement is refused, with what was executed before it kept.
+    /// ignored. Throws StoreError when a statement is refused, with what was executed before it kept.
     void SaveFileEx(Connection& connection, std::string_view number, std::string_view name) const;
 
     /// Adds the library's rows of that number to what the drawing holds; a number without rows adds nothing.
@@ -101,7 +101,7 @@ class CPictire {
     /// changed when it cannot be read or is far too large, and NumericError as ReadMcText does.
     void Open_File(const std::filesystem::path& path);
 
-    /// Reads a DXF file in place of all items. ImportDxf is the same and tells what came in.
+    /// Reads a DXF file in place of all items. ImportDxf does the same and returns a summary.
     void InputDXF(const std::filesystem::path& path);
 
     /// Paints all items with the source box stretched over the destination box: lines, rectangles, arrows,
@@ -113,7 +113,7 @@ class CPictire {
     void OutMCNoStr(PaintTarget& target, const Box& source, const Box& destination) const;
 
     /// Prints the drawing in its own size as one document. A drawing that holds nothing but arcs counts as
-    /// empty: the operator is told and nothing is printed.
+    /// empty: that is reported and nothing is printed.
     void PrintPicture(PageTarget& page) const;
 
     /// Ends the document.
@@ -139,7 +139,7 @@ class CPictire {
     const std::string& GetCurDraw() const { return tool_.curDraw; }
     const ToolState& Tool() const { return tool_; }
 
-    // The tools. Each paints on the canvas what it makes and tells the status bar what it wants next. A
+    // The tools. Each paints on the canvas what it makes and shows in the status bar what it wants next. A
     // cancel returns any of them to idle and drops the transient shape; only that of the delete tool also
     // makes the line style solid again.
 
@@ -176,7 +176,7 @@ class CPictire {
 
     template <typename Item>
     void Add(PrimitiveList<Item>& list, const Item& item) {
-        if (!list.Add(item)) TellFull();
+        if (!list.Add(item)) ReportFull();
     }
     template <typename Item>
     static void DeleteIn(PrimitiveList<Item>& list, Point& cornerA, Point& cornerB) {
@@ -185,7 +185,7 @@ class CPictire {
                 item.Points(), [&](const Point& point) { return PointInBox(point, cornerA, cornerB); });
         });
     }
-    void TellFull() const;
+    void ReportFull() const;
     void Paint(PaintTarget& target, const Box& source, const Box& destination, bool withTexts) const;
 
     PrimitiveList<LineItem> lines_;
@@ -203,12 +203,12 @@ class CPictire {
     TextForm* textForm_ = nullptr;
 };
 
-class CPictire::TellingLimit {
+class CPictire::FullNoticeLimit {
   public:
-    explicit TellingLimit(CPictire& picture);
-    TellingLimit(const TellingLimit&) = delete;
-    TellingLimit& operator=(const TellingLimit&) = delete;
-    ~TellingLimit() { picture_.notice_ = all_; }
+    explicit FullNoticeLimit(CPictire& picture);
+    FullNoticeLimit(const FullNoticeLimit&) = delete;
+    FullNoticeLimit& operator=(const FullNoticeLimit&) = delete;
+    ~FullNoticeLimit() { picture_.notice_ = all_; }
 
   private:
     CPictire& picture_;

@@ -65,7 +65,7 @@ void DrawingDesk::PressMouse(bool leftButton, Point at) {
 void DrawingDesk::MoveMouse(Point at) {
     const Point snapped = Snap(at);
     statusBar_.ShowCoordinates(Plain(snapped.x) + "," + Plain(snapped.y));
-    Tell(picture_.GetCurDraw(), ToolOp::Move, snapped);
+    StepTool(picture_.GetCurDraw(), ToolOp::Move, snapped);
 }
 
 void DrawingDesk::RunCommand(std::string_view text) {
@@ -95,7 +95,7 @@ void DrawingDesk::Run(DeskCommand command) {
         case DeskCommand::Quit:
             return screen_.Quit();
         default:
-            Change([&] { Tell(ToolOfCommand(command), ToolOp::Point, {0, 0}); });
+            Change([&] { StepTool(ToolOfCommand(command), ToolOp::Point, {0, 0}); });
     }
 }
 
@@ -107,17 +107,17 @@ Point DrawingDesk::Snap(Point at) {
 
 void DrawingDesk::GivePoint(ToolOp op, Point at) {
     last_ = at;
-    Change([&] { Tell(picture_.GetCurDraw(), op, at); });
+    Change([&] { StepTool(picture_.GetCurDraw(), op, at); });
 }
 
-void DrawingDesk::Tell(std::string_view tool, ToolOp op, Point at) {
+void DrawingDesk::StepTool(std::string_view tool, ToolOp op, Point at) {
     for (const ToolStep& known : kToolSteps) {
         if (known.tool == tool) return (picture_.*known.step)(op, at.x, at.y);
     }
 }
 
 void DrawingDesk::Cancel() {
-    Tell(picture_.GetCurDraw(), ToolOp::Cancel, {});
+    StepTool(picture_.GetCurDraw(), ToolOp::Cancel, {});
 }
 
 bool DrawingDesk::IsMidway() const {
@@ -260,7 +260,7 @@ void DrawingDesk::UpdateRecovery(bool replaces) {
                      identity_.inLibrary ? identity_.name : std::string(), items});
         recoveryFailed_ = false;
     } catch (const FileError& error) {
-        // Drawing goes on; the operator is told once.
+        // Drawing continues; the failure is reported once.
         if (!std::exchange(recoveryFailed_, true)) {
             statusBar_.ShowPrompt(std::string("未保存的图不能写入恢复文件：") + error.what());
         }

@@ -15,7 +15,7 @@ namespace kalvane {
 
 class DeskScreen;
 
-/// The drawing desk: the drawing with its tools, what the mouse and the command line tell them, the way back
+/// The drawing desk: the drawing with its tools, the input from mouse and command line, undo
 /// through what was done, and the recovery file. Points are in drawing units.
 ///
 /// Every routine may throw what the drawing, a file or the store throws; what was done until then stands and
@@ -72,7 +72,7 @@ class DrawingDesk {
   private:
     /// The one way in which a point, clicked or typed, reaches the tool in progress.
     void GivePoint(ToolOp op, Point at);
-    void Tell(std::string_view tool, ToolOp op, Point at);
+    void StepTool(std::string_view tool, ToolOp op, Point at);
     Point Snap(Point at);
     void Cancel();
     bool IsMidway() const;

@@ -25,11 +25,11 @@ class DrawingHistory {
     bool CanUndo() const { return !undo_.empty(); }
     bool CanRedo() const { return !redo_.empty(); }
 
-    /// Notes what stood before a gesture. Nothing can be redone then.
+    /// Records the state before a gesture. Nothing can be redone then.
     void Add(DeskState before);
 
-    /// Exchanges what stands on the desk for what stood before the last gesture, or after the one that was
-    /// taken back last. There must be one.
+    /// Exchanges the state of the desk for the one before the last gesture, or for the one after the gesture
+    /// that was undone last. There must be one.
     void Undo(DrawingItems& items, DrawingIdentity& identity);
     void Redo(DrawingItems& items, DrawingIdentity& identity);
 

@@ -6,7 +6,7 @@
 
 namespace kalvane {
 
-/// Which drawing lies on the desk, apart from its shapes.
+/// Which drawing is on the desk, apart from its shapes.
 struct DrawingIdentity {
     bool inLibrary = false;  ///< the drawing has a number in the library
     std::string number;

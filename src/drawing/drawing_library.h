@@ -32,7 +32,7 @@ void SaveNewDrawing(Connection& connection, std::string_view number, std::string
                     const CPictire& picture);
 
 /// Takes a drawing out of the index and its primitives out of their tables, as one command. Its arcs stay,
-/// until a drawing is saved under that number. Window types that use the drawing are not looked at.
+/// until a drawing is saved under that number. Window types that use the drawing are not checked.
 void DeleteDrawing(Connection& connection, std::string_view number);
 
 /// Replaces the primitive rows of a number by the items of `picture`, as one command. When a statement is

@@ -6,14 +6,14 @@
 
 namespace kalvane {
 
-/// What happened, for the tool that is told of it.
+/// What happened, as it is passed to the tool.
 enum class ToolOp {
-    Point = 0,   ///< a point is given; at step 0 the tool is armed and the point not looked at
-    Cancel = 1,  ///< the operator gives up; the point is not looked at
+    Point = 0,   ///< a point is given; at step 0 the tool is armed and the point ignored
+    Cancel = 1,  ///< the operator cancels; the point is ignored
     Move = 2     ///< the mouse moved to the point
 };
 
-/// Names of the tools, as CPictire::GetCurDraw tells them.
+/// Names of the tools, as CPictire::GetCurDraw returns them.
 inline constexpr const char* kLineTool = "Line";
 inline constexpr const char* kRectangleTool = "Rec";
 inline constexpr const char* kArrowTool = "Dir";

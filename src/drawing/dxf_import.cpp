@@ -16,7 +16,7 @@ namespace kalvane {
 namespace {
 
 constexpr std::uintmax_t kLargestFile = 512U << 20U;
-constexpr std::size_t kMostKinds = 100;  // that are told apart by name
+constexpr std::size_t kMostKinds = 100;  // that are counted by name
 constexpr std::size_t kKindsInPrompt = 6;
 constexpr std::size_t kLongestName = 24;  // bytes of a kind's name
 constexpr std::string_view kOtherKinds = "其他";
@@ -30,7 +30,7 @@ std::filebuf OpenDxf(const std::filesystem::path& path) {
     return file;
 }
 
-/// What a look over the whole file tells beforehand.
+/// What a first pass over the whole file finds.
 struct Survey {
     bool isUtf8 = true;
     std::map<std::string, int> entities;  ///< of the section ENTITIES, by kind
@@ -103,8 +103,8 @@ class DxfReader {
         float* value;
     };
 
-    /// Reads to the group `last` and its number. The text behind a group 1 goes to `text` where there is
-    /// one. False when the file ends before.
+    /// Reads to the group `last` and its number. The text behind a group 1 is stored in `text` if that is
+    /// given. False when the file ends before.
     bool ReadGroups(std::initializer_list<Place> places, std::string_view last, std::string* text = nullptr) {
         while (!tokens_.AtEnd()) {
             const std::string_view token = tokens_.Next();
@@ -200,7 +200,7 @@ DxfSummary ImportDxf(std::streambuf& file, CPictire& picture) {
     const Survey survey = SurveyDxf(file);
     file.pubseekpos(0, std::ios::in);
     picture.ClearData();
-    const CPictire::TellingLimit limit(picture);
+    const CPictire::FullNoticeLimit limit(picture);
     DxfReader(file, survey.isUtf8, picture).Run();
     return Summarise(survey, picture);
 }

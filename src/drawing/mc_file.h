@@ -19,9 +19,9 @@ std::string McText(const CPictire& picture);
 ///
 /// Tokens end at a line end (CR LF, LF or CR) or a comma; blanks around them do not count. So a text item
 /// that equals a keyword starts a section, and the rest of one with a comma is taken for the next number. A
-/// record that is not complete is dropped. "Circle" is skipped wherever it stands.
+/// record that is not complete is dropped. "Circle" is skipped wherever it occurs.
 ///
-/// Throws NumericError for a token that is no number where one must stand, and for the keyword "Arc", which
+/// Throws NumericError for a token that is no number where one is expected, and for the keyword "Arc", which
 /// no drawing file of this system holds; what was read before stays in `picture`.
 void ReadMcText(std::string_view utf8, CPictire& picture);
 

@@ -7,7 +7,7 @@ namespace {
 
 // The page is an upright A4 sheet; all positions are twips.
 constexpr double kRowHeight = 397.39;
-constexpr PageFont kFont{9};  // a line is 261 twips high and stands 100 below a rule
+constexpr PageFont kFont{9};  // a line is 261 twips high and begins 100 below a rule
 constexpr int kRowsInHalf = 23;
 constexpr int kRowsInContinuationHalf = 33;
 

@@ -45,7 +45,7 @@ struct ComponentSheet {
     std::string maker;  ///< the workshop's name
 };
 
-/// Paints what stands on a component sheet besides its drawing, and the pages that continue its table: the
+/// Paints what is on a component sheet besides its drawing, and the pages that continue its table: the
 /// first page holds 46 rows, each further one 66. The row behind the first page's last is left out and one
 /// behind the last row is read, so a table that is continued has its rows from 47 on one place later.
 void PaintComponentSheet(PageTarget& page, const ComponentSheet& sheet);

@@ -41,8 +41,8 @@ class PrimitiveList {
         --last_;
     }
 
-    /// Takes out every item for which `hit` holds. A place is tested again after a deletion, since another
-    /// item stands there then.
+    /// Takes out every item for which `hit` holds. A place is tested again after a deletion, since it
+    /// holds another item then.
     template <typename Hit>
     void DeleteWhere(Hit hit) {
         for (int i = 0; i <= last_;) {

@@ -70,7 +70,7 @@ UnsavedDrawing RecoveryShelf::Take() {
 void RecoveryShelf::Keep(const UnsavedDrawing& drawing) {
     const std::string text = RecoveryText(drawing);
     WriteFileAtomically(File(current_), text);
-    // One that an undo brought back from the shelf is not to lie there as well.
+    // A drawing that an undo restored from the shelf is not kept there as well.
     for (const int number : Numbers()) {
         if (number == current_) continue;
         try {

@@ -8,7 +8,8 @@
 namespace kalvane {
 
 /// The recovery files of the drawing desk: what was drawn and is saved nowhere. They lie in the folder of the
-/// stores as "unsaved-drawing-1.txt" and so on, the greatest number the latest; beyond five the oldest goes.
+/// stores as "unsaved-drawing-1.txt" and so on, the greatest number the latest; beyond five the oldest is
+/// deleted.
 ///
 /// The drawing on the desk has one file, which is written after each change and removed when the drawing is
 /// saved. A drawing that another takes the place of leaves its file on the shelf. So nothing need be done

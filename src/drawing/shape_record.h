@@ -9,7 +9,7 @@
 namespace kalvane {
 
 /// A layer of the desk's canvas: what was painted, in drawing units, so that it can be shown at any zoom.
-/// Everything is black, so the order among the kinds of marks is of no account.
+/// Everything is black, so the order among the kinds of marks does not matter.
 class ShapeRecord final : public PaintTarget {
   public:
     struct Stroke {
@@ -32,7 +32,11 @@ class ShapeRecord final : public PaintTarget {
     void SetDashed(bool dashed) { dashed_ = dashed; }
     void DrawDot(float x, float y) { dots_.push_back({x, y}); }
     /// Empties the record; the line style stays.
-    void Clear();
+    void Clear() {
+        strokes_.clear();
+        texts_.clear();
+        dots_.clear();
+    }
 
     void DrawLine(float x1, float y1, float x2, float y2) override {
         strokes_.push_back({{x1, y1}, {x2, y2}, dashed_});

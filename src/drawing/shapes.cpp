@@ -22,7 +22,7 @@ float Slope(float across, float along) {
     return along == 0 ? 0 : across / along;
 }
 
-/// Angle at which a point lies, given its offset (u, v) from the centre with v upward; none straight above
+/// Angle of a point, given its offset (u, v) from the centre with v upward; none straight above
 /// and below it.
 std::optional<double> AngleAt(double u, double v) {
     if (u == 0) return std::nullopt;

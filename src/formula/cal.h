@@ -9,7 +9,7 @@
 
 namespace kalvane {
 
-/// Turns a formula text into a number. A small machine of two passes: the first brings the text into
+/// Turns a formula text into a number. A small machine of two passes: the first puts the text into
 /// postfix order with an operator stack, the second evaluates the postfix on the same stack. It checks no
 /// syntax and repairs nothing, every text gives a number, and the formulas of the window types were written
 /// against exactly these numbers: absent operands read as 0, unknown characters only separate, and what a
@@ -20,7 +20,7 @@ class Cal {
     static constexpr std::size_t kMostCharacters = 32767;
 
     /// `text` in capitals with every `old`, whatever its case, replaced by `replacement` as it stands. The
-    /// search starts anew at the front after each replacement, so that an `old` that comes into being is
+    /// search restarts at the front after each replacement, so that an `old` that a replacement forms is
     /// replaced too. Throws FormulaError where that has no end: `old` is empty and the text is not, or it
     /// occurs and the replacement, in capitals, holds it, or the text grows beyond kMostCharacters.
     static std::string Replace(std::string_view text, std::string_view old, std::string_view replacement);

@@ -39,7 +39,7 @@ class BasicCQueue {
     bool IsEmpty() const { return head_ == tail_; }
     bool IsFull() const { return Next(tail_) == head_; }
 
-    /// What lies in the next free slot: an entry taken out long ago, or nothing yet. Resets the message.
+    /// Content of the next free slot: an entry taken out long ago, or nothing yet. Resets the message.
     Entry ShowEnd() {
         message_ = "None";
         return items_[static_cast<std::size_t>(tail_)];

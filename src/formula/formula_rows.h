@@ -73,7 +73,7 @@ class MemberWalk {
     /// of the member before.
     ///
     /// Throws StoreError, and NumericError for a Null or a count beyond 16 bits. The step has been made then,
-    /// so that a caller to whom a failure is no reason to stop may call again.
+    /// so that a caller that ignores failures may call again.
     bool Next();
 
     const std::string& TypeId() const { return typeId_; }  ///< the member's 门窗.编号

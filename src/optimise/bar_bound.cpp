@@ -8,14 +8,14 @@ namespace kalvane {
 namespace {
 
 /// Whole price of one bar: fine enough that cutting prices down to it loses nothing that rounding the bound
-/// up would not bring back, coarse enough that the price of 2^31 pieces stays within 64 bits.
+/// up does not make good, coarse enough that the price of 2^31 pieces stays within 64 bits.
 constexpr std::int64_t kBarPrice = std::int64_t{1} << 30;
 
 /// Largest table of a step, some 30 ms, and most lengths, whose basis is a square matrix.
 constexpr std::size_t kMostCells = std::size_t{1} << 25;
 constexpr std::size_t kMostLengths = 1000;
 
-/// Far more steps than the programme takes, unless it should turn in a circle.
+/// Far more steps than the programme takes, unless it cycles.
 constexpr int kStepsPerLength = 60;
 
 constexpr double kTiny = 1e-7;

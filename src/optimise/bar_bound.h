@@ -17,7 +17,7 @@ struct BarDemand {
 
 /// How many bars the pieces take at the least, whatever the plan.
 ///
-/// It starts with the total width over the bar's length, rounded up, and goes on to the optimum of the
+/// It starts with the total width over the bar's length, rounded up, and proceeds to the optimum of the
 /// pattern programme by column generation. The programme's arithmetic is floating, but the bound is never
 /// taken from it: at each step the prices are cut to whole numbers Y and the most valuable pattern is found
 /// exactly; if it is worth Z, every bar gives at most Z, so no plan takes fewer than (sum of count * Y) / Z
@@ -29,7 +29,7 @@ class BarBound {
     /// of the bar, there is no bound: Bars() is 0 and nothing is to be done.
     BarBound(int stock, const std::vector<BarDemand>& demand);
 
-    /// Betters the bound by one step of some milliseconds; false when there is no more to do.
+    /// Improves the bound by one step of some milliseconds; false when there is no more to do.
     bool Step();
 
     std::int64_t Bars() const { return bars_; }

@@ -6,7 +6,7 @@
 namespace kalvane {
 namespace {
 
-/// The middle of two positions; a half goes to the even neighbour.
+/// The middle of two positions; a half is rounded to the even neighbour.
 std::int16_t Middle(std::int16_t low, std::int16_t high) {
     return RoundToInt16((static_cast<double>(low) + high) / 2);
 }
@@ -26,7 +26,7 @@ std::int16_t CTable::Locate(std::int16_t value) const {
             low = static_cast<std::int16_t>(middle + 1);
             middle = Middle(low, high);
         }
-        // With no room left the middle may stand one below the value, just where the walk down would end.
+        // With no room left the middle may be one below the value, just where the walk down would end.
         if (GetItemValue(middle) == value || low >= middle) break;
     }
     while (middle >= 1 && GetItemValue(middle) == value) --middle;

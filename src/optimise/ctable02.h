@@ -11,7 +11,7 @@ namespace kalvane {
 /// that taking a length out moves nothing.
 class CTable02 {
   public:
-    /// What FindJustFor answers beside a position.
+    /// What FindJustFor returns beside a position.
     static constexpr std::int16_t kNothingFits = 0;
     static constexpr std::int16_t kBadData = -1;
 
@@ -19,7 +19,7 @@ class CTable02 {
     void Create(std::int16_t n);
 
     std::int16_t Count() const { return count_; }
-    /// Sets the number of lengths; 0 gives the rest of the list up.
+    /// Sets the number of lengths; 0 drops the rest of the list.
     void Count(std::int16_t count) { count_ = count; }
 
     /// Stores a length (mm, with the piece allowance) and its pieces at a position of the chain.
@@ -28,7 +28,7 @@ class CTable02 {
     void Remove(std::int16_t position);
 
     /// Position of the longest length not above `rest`, or kNothingFits. When the shortest length of all is
-    /// above `stock` or negative, tells the operator and answers kBadData.
+    /// above `stock` or negative, reports that and returns kBadData.
     std::int16_t FindJustFor(std::int16_t rest, std::int16_t stock, Notice& notice) const;
 
     void Retrive(std::int16_t& value, std::int16_t& count, std::int16_t position) const;

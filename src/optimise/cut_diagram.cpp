@@ -12,7 +12,7 @@
 namespace kalvane {
 namespace {
 
-/// Light enough for black text, and told apart in grey too: light and middle tones take turns.
+/// Light enough for black text, and distinct in grey too: light and middle tones alternate.
 constexpr std::array<PageColour, 12> kColours{{{158, 202, 245},
                                                {255, 233, 160},
                                                {149, 211, 143},
@@ -44,7 +44,7 @@ constexpr float kTitleHeight = 420;
 constexpr float kHeadingHeight = 320;
 constexpr float kFootHeight = 320;
 
-/// Strokes from the lower left to the upper right, by which a rest is known in grey print too.
+/// Strokes from the lower left to the upper right, by which a rest is recognised in grey print too.
 void Hatch(PageTarget& target, const Box& box) {
     const float height = box.y2 - box.y1;
     for (float x = box.x1 + kHatchGap - height; x < box.x2; x += kHatchGap) {
@@ -190,11 +190,11 @@ void CutDiagram::PaintPages(PageTarget& target, const std::string& projectName) 
     const float top = kTitleHeight + kHeadingHeight;
     const auto rowsPerPage =
         static_cast<std::size_t>(std::max(2.0F, (target.Height() - top - kFootHeight) / kRowHeight));
-    // What stands on each page, from the top: a page that begins within a material names it again.
+    // The rows of each page, from the top: a page that begins within a material names it again.
     std::vector<std::vector<Row>> pages;
     for (const Row& row : rows_) {
         const bool namesMaterial = row.bar == nullptr;
-        // A name at the foot would stand without its bars.
+        // A name at the foot would be parted from its bars.
         const std::size_t needed = namesMaterial ? 2 : 1;
         if (pages.empty() || pages.back().size() + needed > rowsPerPage) {
             pages.emplace_back();

@@ -42,7 +42,7 @@ struct CutMaterial {
     std::vector<CutBar> cuts;
 };
 
-/// The bars of a plan in its order; like bars stand together. A piece takes its length and behind it the
+/// The bars of a plan in its order, like bars together. A piece takes its length and behind it the
 /// allowance.
 std::vector<CutMaterial> LayOutBars(const std::vector<PlanRow>& plan, const OptimiseSettings& settings);
 
@@ -63,7 +63,7 @@ class CutDiagram {
     void PaintRow(PageTarget& target, std::size_t row, float y, float width) const;
 
     /// Paints all rows as pages with a heading, a foot with the page's number, and the material again at the
-    /// top of a page that goes on with it.
+    /// top of a page that continues it.
     void PaintPages(PageTarget& target, const std::string& projectName) const;
 
   private:

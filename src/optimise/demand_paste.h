@@ -17,7 +17,7 @@ struct PastedDemand {
 };
 
 /// Reads a table copied from a spreadsheet: a length in mm and its pieces per line, divided by a tab or, in
-/// a line without one, by a comma. A field may stand in double quotes. Empty lines are passed over, and so
+/// a line without one, by a comma. A field may be in double quotes. Empty lines are skipped, and so
 /// is a first line that has a number in neither column: the headings. A length must be above 0 and pass
 /// CheckManualRow; pieces are a whole number from 1 to 32767.
 PastedDemand ParsePastedDemand(std::string_view text, const OptimiseSettings& settings);

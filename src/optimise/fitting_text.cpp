@@ -15,7 +15,7 @@ bool SetFittingFont(PageTarget& target, std::string_view text, PageFont font, fl
         font.points = std::max(kSmallestPoints, font.points * width / needed);
         target.SetFont(font);
     }
-    return target.TextWidth(text) <= width * 1.01F;  // a font's size goes in small steps
+    return target.TextWidth(text) <= width * 1.01F;  // a font's size changes in small steps
 }
 
 void DrawFittingText(PageTarget& target, const Box& box, std::string_view text, PageFont font) {

@@ -81,8 +81,8 @@ void LinearOptimiser::EmitPattern(const std::string& name, std::int16_t stock, c
     }
 }
 
-/// All pieces as one row of one bar. When the pool is a sample shorter than the bar, this puts more on the
-/// row than one bar holds: with so many small pieces the shop cuts them from offcuts.
+/// All pieces as one row of one bar. When the pool is a sample shorter than the bar, this may put more on the
+/// row than one bar holds; PlanYield counts such bars.
 void LinearOptimiser::EmitAll(const std::string& name, CTable& pieces) {
     YHArray& pattern = search_.Found();
     for (int position = 1; position <= pieces.GetCount(); ++position) {

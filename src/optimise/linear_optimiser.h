@@ -13,10 +13,10 @@
 namespace kalvane {
 
 /// The second scheme: for each bar the pattern that leaves the least waste among the remaining pieces, cut
-/// as many times as the demand allows. A row of 优化结果 stands for all bars of one pattern.
+/// as many times as the demand allows. A row of 优化结果 covers all bars of one pattern.
 class LinearOptimiser {
   public:
-    /// `reporter` hears of every row and about every millisecond of a long search.
+    /// `reporter` is called for every row and about every millisecond of a long search.
     LinearOptimiser(PlanWriter& plan, const OptimiseSettings& settings, Notice& notice,
                     RunReporter& reporter);
 

@@ -21,7 +21,7 @@ struct ManualRowFailure {
     NoticeIcon icon;
 };
 
-/// Checks a row before it is added: both fields stand, and the length is below the bar's.
+/// Checks a row before it is added: both fields are filled, and the length is below the bar's.
 std::optional<ManualRowFailure> CheckManualRow(const ManualRow& row, const OptimiseSettings& settings);
 
 /// Lays out bars for typed rows, with no project behind them: replaces 优化数据 and 优化结果 and runs the

@@ -28,8 +28,8 @@ struct OptionFailure {
 OptionTexts OptionTextsOf(const OptimiseSettings& settings);
 
 /// Checks the boxes in turn; the first that fails is the answer. CLC, LTC, COUNT and NODES round to the
-/// nearest integer (ties to even), CKK goes down. A text that is no number is refused, but for NODES,
-/// where it stands for 0; so is a number beyond the width of its setting.
+/// nearest integer (ties to even), CKK is rounded down. A text that is no number is refused, but for NODES,
+/// where it counts as 0; so is a number beyond the width of its setting.
 std::variant<OptimiseSettings, OptionFailure> AcceptOptions(const OptionTexts& texts);
 
 }  // namespace kalvane

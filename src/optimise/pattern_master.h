@@ -9,7 +9,7 @@ namespace kalvane {
 
 /// The linear programme of cutting patterns: the least number of bars, fractions allowed, whose patterns
 /// together give at least the demanded pieces of every length. Patterns come one at a time; after each the
-/// programme is brought back to its optimum by one step of the revised simplex method with an explicit
+/// programme returns to its optimum by one step of the revised simplex method with an explicit
 /// inverse of the basis (Gilmore and Gomory, A linear programming approach to the cutting-stock problem,
 /// Operations Research 9, 1961).
 ///

@@ -14,7 +14,7 @@ class PatternPricing {
     /// `widths` in mm from 1 to `stock`; `most` pieces of each, from 1 on, on one bar.
     PatternPricing(int stock, const std::vector<int>& widths, const std::vector<int>& most);
 
-    /// Table cells that one search fills, which its time goes by.
+    /// Table cells that one search fills: its time is proportional to them.
     std::size_t Cells() const { return bundles_.size() * row_; }
 
     /// Value of the best pattern, whose pieces are left in `pattern`; `values` are not negative and their

@@ -73,7 +73,7 @@ void PatternSearch::Search(std::int16_t stock, const CTable& pool, float ratio) 
     const int stop = SumReaching(ratio, stock);
     const int best = HighestSum(values, stock);
     if (best < stop && stock + values.back() > kMost16) {
-        // Nothing ends the walk early, so that it comes to every overflow there is.
+        // Nothing ends the walk early, so that it reaches every overflow there is.
         StopTable overflows(values, stock, stock + 1, ticker_);
         if (overflows.FewestPieces(0, 0) < records_) throw NumericError::Overflow();
     }

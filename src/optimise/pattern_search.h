@@ -16,12 +16,12 @@ namespace kalvane {
 /// piece tried before it is passed by, the first of equal sums kept, and an end at the first sum that
 /// reaches the control ratio. Such a walk doubles with every piece. What it finds depends only on which
 /// sums can still be reached from where, so the search works that out by dynamic programming over
-/// (position, sum) and then goes straight to the pattern. Its time is at most pieces times millimetres.
+/// (position, sum) and then walks straight to the pattern. Its time is at most pieces times millimetres.
 class PatternSearch {
   public:
     enum class Result {
         BadData = -1,      ///< already reported to the operator
-        Pattern = 0,       ///< stands in Found()
+        Pattern = 0,       ///< see Found()
         WholePoolFits = 1  ///< the pool is shorter than the bar; nothing in Found()
     };
 

@@ -9,7 +9,7 @@
 
 namespace kalvane {
 
-/// What stands on the label of one piece.
+/// The texts on the label of one piece.
 struct PieceLabel {
     std::string material;  ///< 规格
     int length = 0;        ///< as cut, mm

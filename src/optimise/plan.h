@@ -32,18 +32,18 @@ using CutRow = std::array<std::string, 5>;
 /// Columns 材料名称, 数量, 优化比率.
 using TotalRow = std::array<std::string, 3>;
 
-/// 材料切割表: the rows of LoadSummedPlan as a table. The material stands only on its first row.
+/// 材料切割表: the rows of LoadSummedPlan as a table. The material is named on its first row only.
 std::vector<CutRow> CutTable(const std::vector<PlanRow>& plan);
 
 /// 材料统计表: bars per material and their mean ratio weighted by the bars, unrounded.
 std::vector<TotalRow> LoadTotalTable(Connection& connection);
 
-/// What the plan is put out with: as a text file or as a spreadsheet.
+/// The plan as it is exported, to a text file or a spreadsheet.
 struct PlanOutput {
     std::vector<CutRow> cuts;
     std::vector<TotalRow> totals;
     std::string projectName;
-    std::string today;  ///< date of the output, as it is to stand there
+    std::string today;  ///< date of the output, as it is to appear
 };
 
 /// Both tables of the store, with the given heading and date.

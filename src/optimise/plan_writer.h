@@ -17,7 +17,7 @@ class PlanWriter {
     explicit PlanWriter(Connection& connection) : connection_(connection) {}
 
     /// Empties 优化结果 and does `work`, which adds the rows. The answer is Finished or, when `work` threw
-    /// RunCancelled, Cancelled. Any other failure goes on to the caller; the rows added before it stay.
+    /// RunCancelled, Cancelled. Any other failure is passed on to the caller; the rows added before it stay.
     RunEnd Write(const std::function<void()>& work);
 
     /// Adds a row; to be called within Write. Throws StoreError, for one when the pattern has more than 100

@@ -10,7 +10,7 @@
 
 namespace kalvane {
 
-/// What the plan of one material comes to.
+/// What the plan of one material uses.
 struct MaterialYield {
     std::string material;
     std::int64_t bars = 0;

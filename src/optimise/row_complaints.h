@@ -4,7 +4,7 @@
 
 namespace kalvane {
 
-/// What is wrong with the rows of a text that the operator brought, told in one message.
+/// Collects what is wrong with the rows of a text from outside, for one message.
 class RowComplaints {
   public:
     /// Lines count from 1.

@@ -6,7 +6,7 @@
 
 namespace kalvane {
 
-/// Where a run stands.
+/// Progress of a run.
 struct RunStage {
     std::size_t material = 0;  ///< index of the material at hand
     int pieces = 0;            ///< pieces of this material
@@ -14,15 +14,15 @@ struct RunStage {
     int bars = 0;              ///< bars written in this run
 };
 
-/// Called when a material's turn comes, after each row that is written, and about every millisecond of a
+/// Called when a material begins, after each row that is written, and about every millisecond of a
 /// long search, so it must be quick. May be empty. Throws RunCancelled to end the run.
 using RunProgress = std::function<void(const RunStage&)>;
 
-/// The operator has had enough; the rows already written stay. No Error, so that no handler on the way takes
+/// The operator cancelled; the rows already written stay. No Error, so that no handler on the way takes
 /// it for a failure.
 struct RunCancelled {};
 
-/// How a run ended. A failed one has told the operator why.
+/// How a run ended. A failure has been reported.
 enum class RunEnd { Finished, Cancelled, Failed };
 
 /// Keeps the stage of one run and passes it on.

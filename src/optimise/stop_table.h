@@ -15,9 +15,9 @@ namespace kalvane {
 /// longer. The walk stops at a closed branch whose sum has reached the goal, and it breaks off where sum
 /// and next piece together leave 16 bits.
 ///
-/// For every node the table knows how few further pieces must be taken to come to a stop. It is filled
+/// For every node the table knows how few further pieces must be taken to reach a stop. It is filled
 /// from the last position back to the start. Only every n-th row is kept, n being the square root of the
-/// number of pieces; the rows between are made again when the reader comes to them.
+/// number of pieces; the rows between are computed again when the reader reaches them.
 class StopTable {
   public:
     /// More pieces than any bar may take.

@@ -42,7 +42,7 @@ class PageRecord final : public PageTarget {
 
     const std::vector<Page>& Pages() const { return pages_; }
 
-    /// True when nothing was painted and no document was ended: there is nothing to put out.
+    /// True when nothing was painted and no document was ended: there is nothing to output.
     bool IsEmpty() const { return !hasEnded_ && pages_.size() == 1 && pages_.front().empty(); }
 
     void DrawLine(float x1, float y1, float x2, float y2) override { Add(PageLine{x1, y1, x2, y2}); }

@@ -24,8 +24,9 @@ struct PageColour {
     friend bool operator==(const PageColour&, const PageColour&) = default;
 };
 
-/// A document of pages that goes to the printer, to a preview or to a PDF file. What stands on a page is told
-/// by its position in twips, with the origin at the top left of the printable area; nothing is clipped.
+/// A document of pages that goes to the printer, to a preview or to a PDF file. Everything on a
+/// page is given by its position in twips, with the origin at the top left of the printable area; nothing is
+/// clipped.
 class PageTarget : public PaintTarget {
   public:
     /// Size of the printable area in twips.
@@ -37,7 +38,7 @@ class PageTarget : public PaintTarget {
     /// Width of a text in the current font, in twips.
     virtual float TextWidth(std::string_view text) const = 0;
 
-    /// Fills a box; what is painted later stands over it.
+    /// Fills a box; what is painted later covers it.
     virtual void FillBox(const Box& box, PageColour colour) = 0;
 
     /// Ends the document. What is painted after it begins a new page.

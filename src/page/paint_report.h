@@ -5,7 +5,7 @@
 
 namespace kalvane {
 
-/// Prints a report as one document. A row stands on one page, unless it is higher than a whole one; then it
+/// Prints a report as one document. A row is kept on one page, unless it is higher than a whole one; then it
 /// is divided between its lines.
 void PaintReport(PageTarget& page, const Report& report);
 

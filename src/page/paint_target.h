@@ -6,7 +6,7 @@ namespace kalvane {
 
 /// Anything a drawing or a page can be painted on: a picture box, an image, a printer or PDF page.
 /// Coordinates are 32-bit floats in twips (1/1440 inch), origin top left, y downward. Strokes are black
-/// unless the target was told another text colour.
+/// unless the target was given another text colour.
 class PaintTarget {
   public:
     virtual ~PaintTarget() = default;

@@ -17,9 +17,9 @@ struct ReportColumn {
 /// Texts side by side, each with the same part of the page's width.
 using ReportLine = std::vector<std::string>;
 
-/// A printed report in bands: title and heading, a ruled table whose column heads stand on every page, a row
-/// of totals, and a closing block. The title and "第 n 页，共 m 页" stand at the foot of each page. A band
-/// that is empty is left out; a text document, such as a contract, has closing lines only.
+/// A printed report in bands: title and heading, a ruled table whose column heads are repeated on every page,
+/// a row of totals, and a closing block. The title and "第 n 页，共 m 页" are printed at the foot of each
+/// page. A band that is empty is left out; a text document, such as a contract, has closing lines only.
 struct Report {
     std::string title;
     std::vector<ReportLine> heading;

@@ -61,7 +61,7 @@ class Wrapper {
   private:
     void Word(std::string_view word) {
         const float full = page_.TextWidth(word);
-        // Blanks behind a word may stand over the edge.
+        // Blanks behind a word may run over the edge.
         const float visible = word.back() == ' ' ? page_.TextWidth(Trim(word)) : full;
         if (used_ + visible > width_ && !line_.empty()) EndLine();
         if (visible <= width_) {

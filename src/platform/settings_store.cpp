@@ -61,7 +61,7 @@ void SettingsStore::Save(std::string_view application, std::string_view section,
     try {
         WriteFileAtomically(file_, content);
     } catch (const FileError&) {
-        // Told in the header.
+        // Not reported: see Save.
     }
 }
 

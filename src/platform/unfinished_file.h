@@ -4,12 +4,12 @@
 
 namespace kalvane {
 
-/// A file that is written under a passing name beside its own and gets that only when it is whole: a failure
-/// or a kill never leaves half a file under the name, nor takes away one that stood there. A file that was
+/// A file that is written under a temporary name and gets its own only when it is complete: a failure or a
+/// kill never leaves half a file under the name, nor removes an older one. A file that was
 /// not finished is removed, with the journal that the store's engine may have left beside it.
 class UnfinishedFile {
   public:
-    /// What an earlier process of the same number left under the passing name is removed.
+    /// What an earlier process of the same number left under the temporary name is removed.
     explicit UnfinishedFile(std::filesystem::path name);
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
@@ -18,7 +18,7 @@ class UnfinishedFile {
     /// Where to write it.
     const std::filesystem::path& Path() const { return path_; }
 
-    /// Gives the file its name as one step, in place of a file that had it, and brings that to the disk.
+    /// Gives the file its name as one step, in place of a file that had it, and flushes that to the disk.
     /// Throws FileError; the other file then stays as it was.
     void Finish();
 

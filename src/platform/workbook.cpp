@@ -13,7 +13,7 @@
 namespace kalvane {
 namespace {
 
-/// An empty file of our own in the folder for temporary files; gone when this goes.
+/// An empty file in the folder for temporary files, removed by the destructor.
 class TemporaryFile {
   public:
     TemporaryFile() : path_((std::filesystem::temp_directory_path() / "kalvane-XXXXXX").string()) {

@@ -23,7 +23,7 @@ struct Project {
 /// All projects, in the order of the store.
 std::vector<Project> ListProjects(Connection& connection);
 
-/// Adds a project under the next number and returns that number; `project.number` is not looked at. Neither
+/// Adds a project under the next number and returns that number; `project.number` is ignored. Neither
 /// names nor contract numbers need be unique.
 std::string AddProject(Connection& connection, const Project& project);
 

@@ -33,7 +33,7 @@ struct LabelRow {
     std::string y;
 };
 
-// Numbers stand bare in the statements, as they were typed; texts stand between quotes, and a quote in one
+// Numbers are put into the statements bare, as they were typed, texts between quotes, and a quote in one
 // breaks its statement. Every routine throws StoreError when the store refuses a statement; what was
 // executed before it stays. Each change is one command.
 
@@ -46,8 +46,8 @@ std::vector<LabelRow> LoadLabels(Connection& connection, std::string_view window
 /// The labels of a new window, one for each text of the drawing, with the value "0".
 std::vector<LabelRow> LabelsOfDrawing(const PrimitiveList<TextItem>& texts);
 
-/// Adds a window with its labels under the next number and returns that number; `window.number` is not
-/// looked at. A label's name of more than five characters is refused, after the window was written.
+/// Adds a window with its labels under the next number and returns that number; `window.number` is
+/// ignored. A label's name of more than five characters is refused, after the window was written.
 std::string AddWindow(Connection& connection, const WindowEntry& window, std::span<const LabelRow> labels);
 
 /// Writes name, position, sizes, count and note of the window with `window.number` and replaces its labels.

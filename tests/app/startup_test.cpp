@@ -124,23 +124,23 @@ TEST_F(StartupTest, AReadOnlyFolderIsToldOnceAndCanBeLookedAt) {
     EXPECT_TRUE(lock.Acquire());
     Start();
     EXPECT_TRUE(notice_.shown.empty()) << "no copy of the day, and no word about it";
-    TellReadOnlyFolder(state_, notice_);
+    WarnOfReadOnlyFolder(state_, notice_);
     EXPECT_EQ(notice_.shown.size(), 1U);
     EXPECT_EQ(Drawings(), "7");
     EXPECT_THROW(state_.Main().Execute("Insert into 图 (编号) values(8)"), StoreError);
     EXPECT_EQ(Drawings(), "7");
 }
 
-TEST(RunMarker, StandsAfterAnUncleanEndOnly) {
+TEST(RunMarker, ExistsAfterAnUncleanEndOnly) {
     const TempFolder folder;
     {
         RunMarker second(folder.Path());  // ends before it begins, as a second program does
         RunMarker run(folder.Path());
-        EXPECT_FALSE(run.Stands());
+        EXPECT_FALSE(run.Exists());
         run.Set();
-        EXPECT_TRUE(second.Stands());
+        EXPECT_TRUE(second.Exists());
     }
-    EXPECT_FALSE(RunMarker(folder.Path()).Stands());
+    EXPECT_FALSE(RunMarker(folder.Path()).Exists());
     RunMarker(folder / "missing").Set();  // told by what fails next
 }
 

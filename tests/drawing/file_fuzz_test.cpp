@@ -139,7 +139,7 @@ void Fuzz(const std::vector<std::string>& files, Read read) {
 
 TEST(FileFuzz, DrawingFiles) {
     Fuzz(DrawingFiles(), [](const std::string& bytes, CPictire& picture) {
-        const CPictire::TellingLimit limit(picture);
+        const CPictire::FullNoticeLimit limit(picture);
         ReadMcText(DecodeFileText(bytes), picture);
     });
 }
