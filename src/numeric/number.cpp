@@ -1,5 +1,6 @@
 #include "numeric/number.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -9,6 +10,9 @@
 
 namespace kalvane {
 namespace {
+
+constexpr int kMoneyDecimals = 4;
+constexpr double kMoneyScale = 10000;
 
 constexpr bool IsDigit(char c) {
     return c >= '0' && c <= '9';
@@ -148,6 +152,43 @@ std::int16_t Checked16(std::int64_t value) {
 
 double RoundTo4Decimals(double value) {
     return RoundHalfToEven(value * 10000) / 10000;
+}
+
+double RoundToMoney(std::string_view text) {
+    text = Trim(text);
+    if (!IsNumeric(text)) throw NumericError::TypeMismatch();
+    const std::size_t end = std::min(text.find_first_of("eE"), text.size());
+    double shift = end < text.size() ? Val(text.substr(end + 1)) : 0;  // of the point behind all digits
+    const std::size_t point = std::min(text.find('.'), end);
+    if (point < end) shift -= static_cast<double>(end - point - 1);
+    std::string digits(text.substr(0, end));
+    std::erase_if(digits, [](char c) { return !IsDigit(c); });
+    digits.erase(0, digits.find_first_not_of('0'));
+    if (digits.empty()) return 0;
+
+    constexpr double kMostDigits = 19;  // of a 64-bit integer
+    const double count = static_cast<double>(digits.size()) + shift + kMoneyDecimals;
+    if (count > kMostDigits) throw NumericError::Overflow();
+    if (count < 0) return 0;
+    const auto whole = static_cast<std::size_t>(count);
+    digits.resize(std::max(digits.size(), whole), '0');
+    std::uint64_t scaled = 0;
+    std::from_chars(digits.data(), digits.data() + whole, scaled);
+    digits.erase(0, whole);
+    digits.erase(digits.find_last_not_of('0') + 1);
+    if (digits > "5" || (digits == "5" && scaled % 2 == 1)) ++scaled;
+    if (scaled > std::numeric_limits<std::int64_t>::max()) throw NumericError::Overflow();
+    const auto signedScaled = static_cast<std::int64_t>(scaled);
+    return static_cast<double>(text.front() == '-' ? -signedScaled : signedScaled) / kMoneyScale;
+}
+
+double RoundToMoney(double value) {
+    // From eleven whole digits on, fifteen digits would cut the four decimals, and no tie is left to find.
+    constexpr double kLarge = 1e10;
+    if (!std::isfinite(value)) throw NumericError::Overflow();
+    if (std::fabs(value) < kLarge) return RoundToMoney(ShortText(value));
+    char buffer[32];
+    return RoundToMoney(std::string_view(buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr));
 }
 
 float NarrowToFloat(double value) {

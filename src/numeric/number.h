@@ -42,6 +42,12 @@ std::int16_t Checked16(std::int64_t value);
 /// `value` rounded to four decimals, ties to even.
 double RoundTo4Decimals(double value);
 
+/// An amount of money: the number of a decimal text rounded to four decimals, ties to even, so that 0.00015
+/// and 0.00025 both give 0.0002. A 64-bit float stands for its decimal text of 15 digits. Throws NumericError
+/// (type mismatch) when the text is no number and (overflow) beyond 922337203685477.5807 on either side.
+double RoundToMoney(std::string_view text);
+double RoundToMoney(double value);
+
 /// 64-bit to 32-bit float; throws NumericError (overflow) when the value is beyond a 32-bit float.
 float NarrowToFloat(double value);
 

@@ -27,6 +27,11 @@ double AsNumber(const WrittenValue& target, const EngineValue& value) {
     return ParseNumber(text);
 }
 
+double AsMoney(const WrittenValue& target, const EngineValue& value) {
+    const double number = AsNumber(target, value);
+    return std::holds_alternative<double>(value) ? RoundToMoney(number) : RoundToMoney(Shown(value));
+}
+
 }  // namespace
 
 EngineValue ConvertForColumn(const WrittenValue& target, const EngineValue& value, std::string& scratch) {
@@ -40,7 +45,7 @@ EngineValue ConvertForColumn(const WrittenValue& target, const EngineValue& valu
             case ColumnType::Float32:
                 return static_cast<double>(NarrowToFloat(AsNumber(target, value)));
             case ColumnType::Money:
-                return RoundTo4Decimals(AsNumber(target, value));
+                return AsMoney(target, value);
             case ColumnType::Text:
             case ColumnType::Memo:
             case ColumnType::DateTime:

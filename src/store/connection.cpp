@@ -7,7 +7,9 @@
 #include "numeric/assertion.h"
 #include "numeric/error.h"
 #include "numeric/number.h"
+#include "numeric/text.h"
 #include "store/column_conversion.h"
+#include "store/comparison_functions.h"
 #include "store/connection_implementation.h"
 #include "store/engine_error.h"
 
@@ -19,6 +21,9 @@ constexpr std::size_t kMostStatements = 256;
 
 /// How long another process that holds the file is waited for.
 constexpr int kBusyMilliseconds = 3000;
+
+/// Of a number with hundreds of digits the beginning is enough to find it by.
+constexpr std::size_t kShownDigits = 30;
 
 EngineValue LiteralValue(const Literal& literal, std::string& scratch) {
     if (literal.isText) {
@@ -37,8 +42,19 @@ EngineValue LiteralValue(const Literal& literal, std::string& scratch) {
     if (!IsNumeric(literal.source)) {
         throw StoreError("语句里的“" + std::string(literal.source) + "”不是数字。");
     }
-    const double real = ParseNumber(literal.source);
-    return literal.isNegative ? -real : real;
+    try {
+        const double real = ParseNumber(literal.source);
+        return literal.isNegative ? -real : real;
+    } catch (const NumericError&) {
+        throw StoreError("语句里的数“" + std::string(LeftChars(literal.source, kShownDigits)) +
+                         "”太大，请改用较小的数。");
+    }
+}
+
+/// A number as it was written, for a column that rounds decimals rather than a binary fraction.
+std::string_view DecimalText(const Literal& literal, std::string& scratch) {
+    scratch = (literal.isNegative ? "-" : "") + std::string(literal.source);
+    return scratch;
 }
 
 EngineValue ArgumentValue(sqlite3_value* argument) {
@@ -96,6 +112,7 @@ void Connection::Implementation::Configure(StoreKind kind) {
     sqlite3_db_config(database, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_create_function_v2(database, "kalvane_store", 2, SQLITE_UTF8, this, &StoreFunction, nullptr,
                                nullptr, nullptr);
+    AddComparisonFunctions(database);
     if (IsReadOnly(kind)) {
         sqlite3_db_config(database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
         sqlite3_db_config(database, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
@@ -177,8 +194,11 @@ void Connection::Implementation::BindLiterals(PreparedStatement& statement) {
     KALVANE_ASSERT(scanned_.literals.size() == statement.translation.parameters.size());
     std::string scratch;
     for (std::size_t i = 0; i < scanned_.literals.size(); ++i) {
-        EngineValue value = LiteralValue(scanned_.literals[i], scratch);
+        const Literal& literal = scanned_.literals[i];
         const WrittenValue& target = statement.translation.parameters[i];
+        const bool isMoney = target.column != nullptr && target.column->type == ColumnType::Money;
+        EngineValue value =
+            isMoney && !literal.isText ? DecimalText(literal, scratch) : LiteralValue(literal, scratch);
         if (target.column != nullptr) value = ConvertForColumn(target, value, scratch);
         BindValue(statement.handle, static_cast<int>(i) + 1, value, scratch);
     }

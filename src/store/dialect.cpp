@@ -1,125 +1,54 @@
 #include "store/dialect.h"
 
-#include <algorithm>
-#include <array>
-#include <optional>
-
 #include "numeric/error.h"
-#include "numeric/text.h"
-#include "store/statement_scanner.h"
+#include "store/dialect_expression.h"
+#include "store/dialect_tokens.h"
 
 namespace kalvane {
 namespace {
 
-enum class TokenKind { Name, Keyword, Function, Parameter, Symbol, End };
-
-struct Token {
-    TokenKind kind = TokenKind::End;
-    std::string text;  // keywords and functions in capitals
-};
-
-constexpr std::array<std::string_view, 24> kKeywords = {
-    "SELECT", "DISTINCT", "DELETE", "FROM", "WHERE",  "GROUP",  "BY",      "ORDER",
-    "ASC",    "DESC",     "INSERT", "INTO", "VALUES", "UPDATE", "SET",     "AND",
-    "OR",     "NOT",      "IS",     "NULL", "LIKE",   "IN",     "BETWEEN", "AS"};
-constexpr std::array<std::string_view, 5> kFunctions = {"MAX", "MIN", "SUM", "AVG", "COUNT"};
-
-template <std::size_t N>
-bool Contains(const std::array<std::string_view, N>& words, std::string_view word) {
-    return std::find(words.begin(), words.end(), word) != words.end();
-}
-
-std::vector<Token> Tokenise(std::string_view shape) {
-    std::vector<Token> tokens;
-    for (std::size_t i = 0; i < shape.size();) {
-        const char c = shape[i];
-        if (c == ' ' || c == '\t' || c == '\r' || c == '\n') {
-            ++i;
-        } else if (IsNameByte(c)) {
-            const std::size_t start = i;
-            while (i < shape.size() && IsNameByte(shape[i])) ++i;
-            std::string word(shape.substr(start, i - start));
-            std::string capitals = UpperCase(word);
-            if (Contains(kKeywords, capitals)) {
-                tokens.push_back({TokenKind::Keyword, std::move(capitals)});
-            } else if (i < shape.size() && shape[i] == '(' && Contains(kFunctions, capitals)) {
-                tokens.push_back({TokenKind::Function, std::move(capitals)});
-            } else {
-                tokens.push_back({TokenKind::Name, std::move(word)});
-            }
-        } else if (c == '?') {
-            tokens.push_back({TokenKind::Parameter, "?"});
-            ++i;
-        } else {
-            const std::string_view pair = shape.substr(i, 2);
-            const bool isPair = pair == "<=" || pair == ">=" || pair == "<>";
-            tokens.push_back({TokenKind::Symbol, std::string(shape.substr(i, isPair ? 2 : 1))});
-            i += isPair ? 2 : 1;
-        }
-    }
-    tokens.push_back({});
-    return tokens;
+std::string Quoted(std::string_view name) {
+    return "\"" + std::string(name) + "\"";
 }
 
 /// Walks the tokens once and writes the translation beside.
 class Translator {
   public:
-    explicit Translator(std::string_view shape) : tokens_(Tokenise(shape)) {}
+    explicit Translator(std::string_view shape) : tokens_(shape) {}
 
     Translation Run() {
-        if (Accept("SELECT")) {
+        if (tokens_.Accept("SELECT")) {
             Select();
-        } else if (Accept("INSERT")) {
+        } else if (tokens_.Accept("INSERT")) {
             Insert();
-        } else if (Accept("UPDATE")) {
+        } else if (tokens_.Accept("UPDATE")) {
             Update();
-        } else if (Accept("DELETE")) {
+        } else if (tokens_.Accept("DELETE")) {
             Delete();
         } else {
-            Fail();
+            tokens_.Fail();
         }
-        if (Peek().kind != TokenKind::End) Fail();
+        if (!tokens_.AtEnd()) tokens_.Fail();
         return std::move(result_);
     }
 
   private:
-    const Token& Peek() const { return tokens_[at_]; }
-    bool At(std::string_view word) const {
-        return (Peek().kind == TokenKind::Keyword || Peek().kind == TokenKind::Symbol) && Peek().text == word;
-    }
-    bool Accept(std::string_view word) {
-        if (!At(word)) return false;
-        ++at_;
-        return true;
-    }
-    void Expect(std::string_view word) {
-        if (!Accept(word)) Fail();
-    }
-
-    [[noreturn]] void Fail() const {
-        if (Peek().kind == TokenKind::End) throw StoreError("语句不完整，数字栏不能为空。");
-        throw StoreError("语句有语法错误，在“" + Peek().text +
-                         "”附近。请检查输入：文字里不能有单引号（'），数字栏里只能填数字。");
-    }
-
-    static std::string Quoted(const std::string& name) { return "\"" + name + "\""; }
-
     const Table* TableName() {
-        if (Peek().kind != TokenKind::Name) Fail();
-        const Table* table = FindTable(Peek().text);
-        if (table == nullptr) throw StoreError("没有表“" + Peek().text + "”。");
-        Write(Quoted(std::string(table->name)));
-        ++at_;
+        if (tokens_.Peek().kind != TokenKind::Name) tokens_.Fail();
+        const std::string name = tokens_.Take().text;
+        const Table* table = FindTable(name);
+        if (table == nullptr) throw StoreError("没有表“" + name + "”。");
+        Write(Quoted(table->name));
         return table;
     }
 
     const Column* ColumnName(const Table& table) {
-        if (Peek().kind != TokenKind::Name) Fail();
-        const Column* column = FindColumn(table, Peek().text);
+        if (tokens_.Peek().kind != TokenKind::Name) tokens_.FailOnValue();
+        const std::string name = tokens_.Take().text;
+        const Column* column = FindColumn(table, name);
         if (column == nullptr) {
-            throw StoreError("表“" + std::string(table.name) + "”没有列“" + Peek().text + "”。");
+            throw StoreError("表“" + std::string(table.name) + "”没有列“" + name + "”。");
         }
-        ++at_;
         return column;
     }
 
@@ -128,171 +57,127 @@ class Translator {
         result_.sql += text;
     }
 
-    /// Writes one token of an expression.
-    void ExpressionToken() {
-        const Token& token = Peek();
-        switch (token.kind) {
-            case TokenKind::Name:
-                if (tokens_[at_ + 1].text == "(" && tokens_[at_ + 1].kind == TokenKind::Symbol) Fail();
-                Write(Quoted(token.text));
-                break;
-            case TokenKind::Parameter:
-                result_.parameters.push_back({});
-                Write("?");
-                break;
-            case TokenKind::Symbol:
-                // Whole numbers divide as real ones; the factor binds exactly as the division does.
-                Write(token.text == "/" ? "* 1.0 /" : token.text);
-                break;
-            case TokenKind::Function:
-                hasAggregate_ = true;
-                Write(token.text);
-                break;
-            case TokenKind::Keyword:
-                Write(token.text);
-                break;
-            case TokenKind::End:
-                Fail();
-        }
-        ++at_;
-    }
-
-    /// Writes an expression up to one of the words that may follow it at the same depth, or the end.
-    void Expression(std::initializer_list<std::string_view> stops) {
-        int depth = 0;
-        const std::size_t start = at_;
-        while (Peek().kind != TokenKind::End) {
-            if (depth == 0) {
-                bool stop = false;
-                for (const std::string_view word : stops) stop = stop || At(word);
-                if (stop) break;
-            }
-            if (At("(")) ++depth;
-            if (At(")") && --depth < 0) Fail();
-            if (Peek().kind == TokenKind::Keyword && IsClause(Peek().text)) Fail();
-            ExpressionToken();
-        }
-        if (at_ == start || depth != 0) Fail();
-    }
-
-    static bool IsClause(std::string_view word) {
-        return word != "AND" && word != "OR" && word != "NOT" && word != "IS" && word != "NULL" &&
-               word != "LIKE" && word != "IN" && word != "BETWEEN" && word != "AS" && word != "ASC" &&
-               word != "DESC" && word != "DISTINCT";
-    }
-
-    void Where(std::initializer_list<std::string_view> stops) {
-        if (!Accept("WHERE")) return;
-        Write("WHERE");
-        Expression(stops);
+    void Where(const Table* table) {
+        if (!tokens_.Accept("WHERE")) return;
+        Write("WHERE " + ExpressionTranslator(tokens_, table, result_).Expression());
     }
 
     void Select() {
         result_.kind = StatementKind::Select;
         Write("SELECT");
-        Expression({"FROM"});
-        Expect("FROM");
+        if (tokens_.Accept("DISTINCT")) Write("DISTINCT");
+        ExpressionTranslator expressions(tokens_, FindTable(tokens_.NameBehind("FROM")), result_);
+        Write(Items([&] { return SelectedItem(expressions); }));
+        tokens_.Expect("FROM");
         Write("FROM");
-        TableName();
-        Where({"GROUP", "ORDER"});
+        Where(TableName());
         std::string keys;
-        if (Accept("GROUP")) {
-            Expect("BY");
-            Write("GROUP BY");
-            const std::size_t before = result_.sql.size();
-            Expression({"ORDER"});
-            keys = result_.sql.substr(before);
+        if (tokens_.Accept("GROUP")) {
+            tokens_.Expect("BY");
+            keys = Items([&] { return expressions.Expression(); });
+            Write("GROUP BY " + keys);
         }
-        if (Accept("ORDER")) {
-            Expect("BY");
-            Write("ORDER BY");
-            Expression({});
+        if (tokens_.Accept("ORDER")) {
+            tokens_.Expect("BY");
+            Write("ORDER BY " + Items([&] { return OrderKey(expressions); }));
         } else if (!keys.empty()) {
-            Write("ORDER BY" + keys);
-        } else if (!hasAggregate_) {
+            Write("ORDER BY " + keys);
+        } else if (!expressions.HasTotals()) {
             Write("ORDER BY rowid");
         }
     }
 
+    std::string SelectedItem(ExpressionTranslator& expressions) {
+        if (tokens_.Accept("*")) return "*";
+        const std::string item = expressions.ExpressionWithTotals();
+        if (!tokens_.Accept("AS")) return item;
+        if (tokens_.Peek().kind != TokenKind::Name) tokens_.Fail();
+        return item + " AS " + Quoted(tokens_.Take().text);
+    }
+
+    std::string OrderKey(ExpressionTranslator& expressions) {
+        const std::string key = expressions.ExpressionWithTotals();
+        if (tokens_.Accept("DESC")) return key + " DESC";
+        tokens_.Accept("ASC");
+        return key;
+    }
+
+    /// Items separated by commas.
+    template <typename Item>
+    std::string Items(Item item) {
+        std::string items = item();
+        while (tokens_.Accept(",")) items += ", " + item();
+        return items;
+    }
+
     void Delete() {
         result_.kind = StatementKind::Delete;
-        Accept("*");
-        Expect("FROM");
+        tokens_.Accept("*");
+        tokens_.Expect("FROM");
         Write("DELETE FROM");
-        TableName();
-        Where({});
+        Where(TableName());
     }
 
     /// One value that goes to a column: a bare literal is converted when it is bound, anything else by a
     /// function the connection offers.
-    void Value(const Table& table, const Column& column, std::initializer_list<std::string_view> stops) {
+    std::string Value(const Table& table, const Column& column) {
         const WrittenValue written{&table, &column};
-        const Token& next = tokens_[at_ + (Peek().kind == TokenKind::End ? 0 : 1)];
-        bool alone = next.kind == TokenKind::End;
-        for (const std::string_view word : stops) alone = alone || next.text == word;
-        if (Peek().kind == TokenKind::Parameter && alone) {
+        const Token& next = tokens_.PeekAfter();
+        const bool isAlone =
+            next.kind == TokenKind::End || next.text == "," || next.text == ")" || next.text == "WHERE";
+        if (tokens_.Peek().kind == TokenKind::Parameter && isAlone) {
+            tokens_.Take();
             result_.parameters.push_back(written);
-            Write("?");
-            ++at_;
-            return;
+            return "?";
         }
-        Write("kalvane_store(");
-        Expression(stops);
-        result_.sql += ", " + std::to_string(result_.computed.size()) + ")";
+        const std::string value = ExpressionTranslator(tokens_, &table, result_).Expression();
         result_.computed.push_back(written);
+        return "kalvane_store(" + value + ", " + std::to_string(result_.computed.size() - 1) + ")";
     }
 
     void Insert() {
         result_.kind = StatementKind::Insert;
-        Expect("INTO");
+        tokens_.Expect("INTO");
         Write("INSERT INTO");
         const Table& table = *TableName();
         std::vector<const Column*> columns;
-        if (Accept("(")) {
-            Write("(");
-            do {
-                columns.push_back(ColumnName(table));
-                Write(columns.size() > 1 ? ", " + Quoted(std::string(columns.back()->name))
-                                         : Quoted(std::string(columns.back()->name)));
-            } while (Accept(","));
-            Expect(")");
-            Write(")");
+        if (tokens_.Accept("(")) {
+            Write("(" + Items([&] {
+                      columns.push_back(ColumnName(table));
+                      return Quoted(columns.back()->name);
+                  }) +
+                  ")");
+            tokens_.Expect(")");
         } else {
             for (const Column& column : table.columns) columns.push_back(&column);
         }
-        Expect("VALUES");
-        Expect("(");
-        Write("VALUES (");
-        for (std::size_t i = 0; i < columns.size(); ++i) {
-            if (i > 0) {
-                Expect(",");
-                Write(",");
-            }
-            Value(table, *columns[i], {",", ")"});
-        }
-        Expect(")");
-        Write(")");
+        tokens_.Expect("VALUES");
+        tokens_.Expect("(");
+        std::size_t count = 0;
+        Write("VALUES (" + Items([&] {
+                  if (count == columns.size()) tokens_.Fail();
+                  return Value(table, *columns[count++]);
+              }) +
+              ")");
+        if (count < columns.size()) tokens_.Fail();
+        tokens_.Expect(")");
     }
 
     void Update() {
         result_.kind = StatementKind::Update;
         Write("UPDATE");
-        const Table& table = *TableName();
-        Expect("SET");
+        const Table* table = TableName();
+        tokens_.Expect("SET");
         Write("SET");
-        do {
-            const Column* column = ColumnName(table);
-            if (!result_.sql.ends_with("SET")) Write(",");
-            Expect("=");
-            Write(Quoted(std::string(column->name)) + " =");
-            Value(table, *column, {",", "WHERE"});
-        } while (Accept(","));
-        Where({});
+        Write(Items([&] {
+            const Column* column = ColumnName(*table);
+            tokens_.Expect("=");
+            return Quoted(column->name) + " = " + Value(*table, *column);
+        }));
+        Where(table);
     }
 
-    std::vector<Token> tokens_;
-    std::size_t at_ = 0;
-    bool hasAggregate_ = false;
+    TokenReader tokens_;
     Translation result_;
 };
 

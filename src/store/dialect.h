@@ -29,7 +29,8 @@ struct Translation {
 
 /// Translates a statement's shape (statement_scanner.h). The dialect: "Delete * from" beside "Delete
 /// from"; names without regard to case, also where they are the engine's reserved words (Line, Count,
-/// User); "/" divides as real numbers; texts compare exactly; grouped rows come in key order and other
+/// User); "/" divides as real numbers; texts compare exactly, Float32 columns in 32
+/// bits; grouped rows come in key order and other
 /// rows in the order in which they were written. Throws StoreError for anything else, a second statement
 /// among it.
 Translation TranslateStatement(std::string_view shape);

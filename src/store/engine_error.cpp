@@ -9,19 +9,12 @@
 namespace kalvane {
 namespace {
 
-/// The part of an engine message behind a fixed beginning.
-bool TakeAfter(std::string_view message, std::string_view beginning, std::string& rest) {
-    if (message.substr(0, beginning.size()) != beginning) return false;
-    rest = message.substr(beginning.size());
-    return true;
-}
-
 std::string StatementErrorText(std::string_view message) {
-    std::string rest;
-    if (TakeAfter(message, "no such column: ", rest)) {
-        return "“" + rest + "”不是列名也不是数字，数字栏里只能填数字。";
+    constexpr std::string_view kUnknownColumn = "no such column: ";
+    if (message.starts_with(kUnknownColumn)) {
+        return "“" + std::string(message.substr(kUnknownColumn.size())) +
+               "”不是列名也不是数字，数字栏里只能填数字。";
     }
-    if (TakeAfter(message, "near ", rest)) return "语句有语法错误：" + rest + "。";
     return "数据库拒绝执行语句：" + std::string(message) + "。";
 }
 

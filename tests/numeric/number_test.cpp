@@ -55,6 +55,33 @@ TEST(Number, RoundsTiesToEvenAndChecksItsWidth) {
     EXPECT_THROW(NarrowToFloat(1e39), NumericError);
 }
 
+TEST(Number, RoundsMoneyFromItsDecimalText) {
+    const std::pair<const char*, double> amounts[] = {{"0.00015", 0.0002},
+                                                      {"0.00025", 0.0002},
+                                                      {"0.000250000000000001", 0.0003},
+                                                      {"-1.00005", -1},
+                                                      {"+1.00015", 1.0002},
+                                                      {".00005", 0},
+                                                      {"0.00005001", 0.0001},
+                                                      {"1.5e-4", 0.0002},
+                                                      {"25E-5", 0.0002},
+                                                      {"1e-400", 0},
+                                                      {"0012.3E2", 1230},
+                                                      {"0", 0},
+                                                      {"9.9999500001", 10},
+                                                      {"99999999999.12345", 99999999999.1234},
+                                                      {"922337203685477.58074999", 922337203685477.5807}};
+    for (const auto& [text, amount] : amounts) EXPECT_EQ(RoundToMoney(text), amount) << text;
+    for (const char* text :
+         {"922337203685477.58075", "-922337203685477.5808", "1e16", "1e999", "", "1.2.3"}) {
+        EXPECT_THROW(RoundToMoney(text), NumericError) << text;
+    }
+    EXPECT_EQ(RoundToMoney(0.00015), 0.0002);
+    EXPECT_EQ(RoundToMoney(0.1 * 0.0005 * 5), 0.0002);  // 0.00025, and some binary dust
+    EXPECT_EQ(RoundToMoney(922337203685477.5), 922337203685477.5);
+    EXPECT_THROW(RoundToMoney(std::numeric_limits<double>::infinity()), NumericError);
+}
+
 TEST(Text, CountsAndCapitalisesCharacters) {
     EXPECT_EQ(CharCount("h1上亮"), 4U);
     const std::pair<const char*, const char*> pairs[] = {

@@ -77,7 +77,61 @@ TEST_F(StoreTest, RefusesWhatIsNoStatementAndChangesNothing) {
     }
     EXPECT_THROW(store_->OpenCursor("Select load_extension('x') from 图"), StoreError);
     EXPECT_THROW(store_->OpenCursor("Select * from 图 union Select * from 图"), StoreError);
+    for (const char* sql : {
+             "Delete * from 图 where 编号=",
+             "Delete * from 图 where 编号=1 and",
+             "Delete * from 图 where 编号=1 or ",
+             "Delete * from 图 where not",
+             "Delete * from 图 where 编号 in (1,)",
+             "Delete * from 图 where 编号 between 1 and",
+             "Delete * from 图 where (编号=1",
+             "Delete * from 图 where 编号=-",
+             "Insert into 图 (编号,图名) values(,'x')",
+             "Insert into 图 (编号,图名) values(2*,'x')",
+             "Update 图 set 编号=,图名='x' where 编号=1",
+             "Update 图 set 编号= where 编号=1",
+             "Update 图 set 编号=1,",
+         }) {
+        EXPECT_EQ(Refusal(sql), "语句不完整，数字栏不能为空。") << sql;
+    }
+    for (const char* sql : {"Select * from 图 where 编号= order by 编号", "Select * from 图 where and 编号=1",
+                            "Select 编号, from 图", "Select * from 图 order by 编号,", "Select max( from 图",
+                            "Select * from 图 where 编号=1e999", "Select * from 图 where max(编号)=1"}) {
+        EXPECT_FALSE(OpenQuery(*store_, sql).has_value()) << sql;
+    }
+    const std::string numbers[] = {std::string(400, '9'), "-1e999",
+                                   std::string(200, '(') + "1" + std::string(200, ')')};
+    for (const std::string& number : numbers) {
+        const std::string refusal = Refusal("Delete * from 图 where 编号<" + number);
+        EXPECT_TRUE(refusal.starts_with("语句")) << refusal;
+    }
     EXPECT_EQ(Rows("Select * from 图"), "1|一");
+}
+
+TEST_F(StoreTest, ComparesFloat32ColumnsIn32Bits) {
+    Insert({"优化结果 (材料名称,数量,优化比率,剩余料长) values('甲',3,12345.67,0.1)",
+            "优化结果 (材料名称,数量,优化比率,剩余料长) values('乙',7,0.3,0.3)"});
+    const std::pair<const char*, const char*> kTable[] = {
+        {"优化比率=12345.67", "甲"},
+        {"12345.67=优化比率", "甲"},
+        {"优化比率='12345.67'", "甲"},
+        {"优化比率<>12345.67", "乙"},
+        {"优化比率<=0.3", "乙"},
+        {"优化比率>=12345.67", "甲"},
+        {"not 优化比率<12345.67", "甲"},
+        {"优化比率>12345.67 or 优化比率<0.3", ""},
+        {"优化比率=剩余料长", "乙"},
+        {"剩余料长*3=0.3", "甲"},  // 3 times the 32-bit 0.1, cut to 32 bits
+        {"优化比率=剩余料长*1", "乙"},
+        {"优化比率 between 12345.67 and 12345.67 and 数量=3", "甲"},
+        {"优化比率 not in (1,12345.67)", "乙"},
+        {"优化比率<1e39 and 优化比率>-1e39", "甲\n乙"},  // numbers that no 32-bit float holds
+        {"优化比率 is not null and 优化比率='多'", ""},
+        {"数量/2=1.5", "甲"},
+    };
+    for (const auto& [condition, names] : kTable) {
+        EXPECT_EQ(Rows("Select 材料名称 from 优化结果 where " + std::string(condition)), names) << condition;
+    }
 }
 
 TEST_F(StoreTest, ConvertsByTheColumnsType) {
@@ -113,6 +167,16 @@ TEST_F(StoreTest, ConvertsByTheColumnsType) {
     store_->Execute("Insert into 优化结果 (材料名称,优化比率) values('甲',0.926666666666667)");
     EXPECT_EQ(Rows("Select 优化比率 from 优化结果"), "0.9266667");
     EXPECT_NE(Refusal("Insert into 优化结果 (优化比率) values(1E+39)"), "");
+    const std::pair<const char*, const char*> kAmounts[] = {
+        {"0.00015", "0.0002"},        {"'0.00025'", "0.0002"},
+        {"0.00015*1", "0.0002"},      {"-922337203685477.5807", "-922337203685478"},
+        {"922337203685477.5808", ""}, {"1+922337203685477", ""}};
+    for (const auto& [written, stored] : kAmounts) {
+        store_->Execute("Delete * from OutTJ");
+        const std::string refusal = Refusal("Insert into OutTJ (金额) values(" + std::string(written) + ")");
+        EXPECT_EQ(refusal.find("数值超出范围") != std::string::npos, *stored == '\0') << refusal;
+        EXPECT_EQ(Rows("Select 金额 from OutTJ"), stored) << written;
+    }
 }
 
 TEST_F(StoreTest, HelpersFollowTheRows) {
