@@ -1,15 +1,13 @@
 #include "backup/backup.h"
 
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include "backup/restore.h"
 #include "numeric/error.h"
 #include "platform/files.h"
 #include "store/dated_copies.h"
+#include "support/killed_child.h"
 #include "support/main_store.h"
 #include "support/raw_store.h"
+#include "support/refusal.h"
 #include "support/store_content.h"
 
 namespace kalvane::test {
@@ -31,13 +29,12 @@ class BackupTest : public MainStoreTest {
     }
     /// What the refusal says; empty when there was none.
     std::string Restore(const std::filesystem::path& file) {
-        try {
+        done_.clear();
+        notice_.shown.clear();
+        return Refusal([&] {
             RestoreMainStore(
                 *store_, file, [this](int tables) { done_.push_back(tables); }, notice_);
-            return "";
-        } catch (const Error& failure) {
-            return failure.what();
-        }
+        });
     }
     const std::filesystem::path template_ = folder_ / kTemplateStoreName;
     const std::filesystem::path backup_ = folder_ / "a.MBK";
@@ -89,8 +86,6 @@ TEST_F(BackupTest, AFailingTableStopsItAndTheCopyIsOffered) {
     RunRaw(backup_, "DROP TABLE \"窗配件\"");  // the twelfth
     for (const bool putBack : {true, false}) {
         notice_.answer = putBack;
-        notice_.shown.clear();
-        done_.clear();
         EXPECT_EQ(Restore(backup_), "");
         EXPECT_EQ(done_.size(), 11U);
         ASSERT_EQ(notice_.shown.size(), putBack ? 2U : 1U);
@@ -125,21 +120,13 @@ TEST_F(BackupTest, ARestoreThatAKillCutOffIsOfferedToBeUndone) {
     const auto before = ContentOf(*store_);
     store_.reset();
     for (const bool putBack : {true, false}) {
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
+        RunAndBeKilled([&] {
             Connection store(file_, StoreKind::Main);
-            RestoreMainStore(
-                store, backup_,
-                [](int tables) {
-                    if (tables == 12) kill(getpid(), SIGKILL);
-                },
-                notice_);
-            _exit(0);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        EXPECT_TRUE(WIFSIGNALED(status));
+            const auto killInTheMiddle = [](int tables) {
+                return tables == 12 ? kill(getpid(), SIGKILL) : 0;
+            };
+            RestoreMainStore(store, backup_, killInTheMiddle, notice_);
+        });
         Connection store(file_, StoreKind::Main);
         notice_.answer = putBack;
         notice_.shown.clear();

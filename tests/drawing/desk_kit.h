@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sstream>
+
 #include "drawing/canvas.h"
 #include "drawing/desk_screen.h"
 #include "drawing/drawing_desk.h"
@@ -51,12 +53,11 @@ struct TestDesk : StatusBar, TextForm, DeskScreen {
     void PrintDrawing() override { asked += "print "; }
     void Quit() override { asked += "quit "; }
 
-    /// Runs commands one after the other, separated by blanks.
+    /// Runs commands one after the other, separated by blanks; "undo" and "redo" as their buttons do.
     void Run(const std::string& commands) {
-        for (std::size_t from = 0; from < commands.size();) {
-            const std::size_t end = std::min(commands.find(' ', from), commands.size());
-            desk.RunCommand(commands.substr(from, end - from));
-            from = end + 1;
+        std::istringstream words(commands);
+        for (std::string word; std::getline(words, word, ' ');) {
+            word == "undo" ? desk.Undo() : word == "redo" ? desk.Redo() : desk.RunCommand(word);
         }
     }
     std::string Items() const { return Describe(desk.Picture()); }

@@ -131,26 +131,22 @@ TEST_F(DrawingDeskTest, AShapeBeyondTheArrayIsOnTheCanvasUntilTheNextRepaint) {
 TEST_F(DrawingDeskTest, EachGestureIsTakenBackAndDoneAgain) {
     const std::string one = "Line 0,0 1899,0";
     const std::string two = one + "; Line 1899,0 1899,1983.75";
-    t_.Run("L 0,0 16,0 16,16");
-    desk_.Undo();  // the chain ends, its last line goes
-    EXPECT_EQ(t_.Items(), one);
-    EXPECT_EQ(desk_.Picture().GetCurDraw(), "");
-    t_.Run("R 0,0");
-    desk_.Undo();  // nothing was made yet: only the gesture ends
-    EXPECT_EQ(t_.Items(), one);
-    desk_.Redo();
-    EXPECT_EQ(t_.Items(), two);
-    t_.Run("E 0,0 20,20");
-    EXPECT_EQ(t_.Items(), "");
-    desk_.Undo();
-    EXPECT_EQ(t_.Items(), two);
-    t_.Run("C");
-    desk_.Undo();
-    EXPECT_EQ(t_.Items(), two);
+    const std::pair<const char*, std::string> steps[] = {
+        {"L 0,0 16,0 16,16 undo", one},  // the chain ends, its last line goes
+        {"R 0,0 undo", one},             // nothing was made yet: only the gesture ends
+        {"redo", two},
+        {"E 0,0 20,20", ""},
+        {"undo", two},
+        {"C undo", two},
+        {"undo undo", ""},
+    };
+    for (const auto& [commands, items] : steps) {
+        t_.Run(commands);
+        EXPECT_EQ(t_.Items(), items) << commands;
+        const bool isUndone = std::string(commands).ends_with("undo");
+        EXPECT_TRUE(!isUndone || desk_.Picture().GetCurDraw().empty()) << commands;
+    }
     EXPECT_EQ(t_.title, "绘图");
-    desk_.Undo();
-    desk_.Undo();
-    EXPECT_EQ(t_.Items(), "");
     EXPECT_FALSE(desk_.CanUndo());
     t_.Run("A 0,0 16,0");
     EXPECT_FALSE(desk_.CanRedo());

@@ -39,9 +39,12 @@ class PageTemplatesTest : public MainStoreTest {
         return pages;
     }
 
-    static void ExpectAll(const std::vector<std::string>& page, std::initializer_list<const char*> commands) {
-        for (const char* command : commands) {
+    /// Expects each of the commands, divided by "; ", on the page.
+    static void ExpectAll(const std::vector<std::string>& page, std::string_view commands) {
+        while (!commands.empty()) {
+            const std::string_view command = commands.substr(0, commands.find("; "));
             EXPECT_NE(std::find(page.begin(), page.end(), command), page.end()) << command;
+            commands.remove_prefix(std::min(commands.size(), command.size() + 2));
         }
     }
     static bool HasText(const std::vector<std::string>& page, const std::string& text) {
@@ -67,30 +70,16 @@ TEST_F(PageTemplatesTest, TheSheetStandsInItsPlaces) {
               (std::vector<std::string>{"0,2958.5 5500,4917", "0,1000 11000,1000", "11000,1000 11000,14710",
                                         "11000,14710 0,14710", "0,14710 0,1000", "5500,1652.86 11000,1652.86",
                                         "5500,2305.72 11000,2305.72"}));
-    ExpectAll(page, {
-                        "5500,4917.16 11000,4917.16",  // head rule 6: 6 x 652.86 + 1000
-                        "0,5570 11000,5570",
-                        "0,14709.97 11000,14709.97",  // table rule 23: 23 x 397.39 + 5570
-                        "5500,1000 5500,14710",
-                        "6520.29,1000 6520.29,5570",
-                        "8250,2958.57 8250,5570",
-                        "9270.29,2958.57 9270.29,5570",
-                        "2080.12,5570 2080.12,14710",
-                        "10432.29,5570 10432.29,14710",
-                        "5600,1200 工程名称",
-                        "6620,1200 值1",
-                        "8350.29,3158.57 购件表号",
-                        "9370.29,4464.14 值9",
-                        "-920,5117.14 ",
-                        "100,5117.14 值10",
-                        "8350.29,5117.14 校    对",
-                        "5500,4917 1500",
-                        "550,1391.7 h",  // 550 x 1, 391.7 + 1000
-                        "100,5668.69 1/1",
-                        "4854.5,5668.69 1/5",  // 397.39 + 5271.3
-                        "5600,5668.69 24/1",
-                        "10532.29,14411.27 46/5",  // 23 x 397.39 + 5271.3
-                    });
+    // Head rule 6: 6 x 652.86 + 1000. Table rule 23: 23 x 397.39 + 5570. Table row 1: 397.39 + 5271.3, row 46
+    // in band 23 of the right half. Label h: 550 x 1, 391.7 + 1000.
+    ExpectAll(
+        page,
+        "5500,4917.16 11000,4917.16; 0,5570 11000,5570; 0,14709.97 11000,14709.97; 5500,1000 5500,14710; "
+        "6520.29,1000 6520.29,5570; 8250,2958.57 8250,5570; 9270.29,2958.57 9270.29,5570; "
+        "2080.12,5570 2080.12,14710; 10432.29,5570 10432.29,14710; 5600,1200 工程名称; 6620,1200 值1; "
+        "8350.29,3158.57 购件表号; 9370.29,4464.14 值9; -920,5117.14 ; 100,5117.14 值10; "
+        "8350.29,5117.14 校    对; 5500,4917 1500; 550,1391.7 h; 100,5668.69 1/1; 4854.5,5668.69 1/5; "
+        "5600,5668.69 24/1; 10532.29,14411.27 46/5");
     EXPECT_FALSE(HasText(page, "B"));
     EXPECT_EQ(page.back(), "500,500 制作单位：厂");
 }
@@ -104,18 +93,16 @@ TEST_F(PageTemplatesTest, TheTableGoesOn) {
     const auto& second = pages[1];
     // 34 rules, eleven verticals, 66 rows of five.
     EXPECT_EQ(second.size(), 34U + 11 + 66 * 5);
-    ExpectAll(second, {
-                          "0,1000 11000,1000", "0,14113.87 11000,14113.87",  // 33 x 397.39 + 1000
-                          "0,1000 0,14113.87", "11000,1000 11000,14113.87", "100,1100 48/1",
-                          "667.71,1497.39 49/2",                        // the second place: 1100 + 397.39
-                          "100,13816.48 80/1",                          // place 33: 32 x 397.39 + 1100
-                          "5600,1100 81/1", "10532.29,13816.48 113/5",  // places 34 and 66
-                      });
+    // The last rule: 33 x 397.39 + 1000. Places 2, 33, 34 and 66: 1100 + 397.39, + 32 x 397.39, and again.
+    ExpectAll(
+        second,
+        "0,1000 11000,1000; 0,14113.87 11000,14113.87; 0,1000 0,14113.87; 11000,1000 11000,14113.87; "
+        "100,1100 48/1; 667.71,1497.39 49/2; 100,13816.48 80/1; 5600,1100 81/1; 10532.29,13816.48 113/5");
     for (const auto& page : pages) EXPECT_FALSE(HasText(page, "47/1"));
     EXPECT_EQ(pages[2].size(), 34U + 11 + 5);
-    ExpectAll(pages[2], {"100,1100 114/1"});
+    ExpectAll(pages[2], "100,1100 114/1");
     sheet_.table.SetCell(2, 48, "");
-    ExpectAll(PrintSheet()[1], {"667.71,1100 "});  // empty texts too
+    ExpectAll(PrintSheet()[1], "667.71,1100 ");  // empty texts too
 }
 
 TEST_F(PageTemplatesTest, TheBareDrawingPage) {

@@ -1,4 +1,3 @@
-#include "numeric/error.h"
 #include "optimise/demand_file.h"
 #include "optimise/demand_paste.h"
 #include "optimise/plan.h"
@@ -6,6 +5,7 @@
 #include "optimise/plan_report.h"
 #include "platform/files.h"
 #include "support/main_store.h"
+#include "support/refusal.h"
 #include "support/xlsx_reader.h"
 
 namespace kalvane::test {
@@ -135,12 +135,7 @@ TEST(DemandFileTest, WritesTwoLinesPerRowAndReadsForeignFilesAsFarAsTheyAreWhole
     for (const auto& file : files) {
         WriteFileAtomically(folder / "a.DDD", file.bytes);
         rows.clear();
-        std::string message;
-        try {
-            ReadDemandFile(folder / "a.DDD", rows);
-        } catch (const FileError& error) {
-            message = error.what();
-        }
+        const std::string message = Refusal([&] { ReadDemandFile(folder / "a.DDD", rows); });
         EXPECT_EQ(TextOf(rows), file.expected);
         EXPECT_EQ(message.substr(std::min(message.find('\n'), message.size())), file.complaints);
     }

@@ -39,46 +39,53 @@ class RunTest : public MainStoreTest {
     OptimiseSettings settings;
 };
 
-TEST_F(RunTest, PracticalOptimiserReportsWhatFitsNoBar) {
-    settings.LTC = 10;
-    settings.CKK = 5;
-    Demand("A", {{5980, 1}});  // exactly the bar
-    Demand("B", {{7000, 1}, {3000, 1}});
-    Demand("C", {{8000, 1}, {7000, 1}});
-    Demand("D", {{-21, 1}, {500, 1}});
-    EXPECT_EQ(Run(0), "A|5980|1|1|0\nB|3000|1|0.5033333|2980");
-    EXPECT_EQ(notice_.shown, (std::vector<std::string>{"|过大：7020", "|过大：7020", "|异常值：-1"}));
-}
-
-TEST_F(RunTest, LinearOptimiserFindsTheBestBars) {
-    settings.LTC = 10;
-    settings.CKK = 5;
-    Demand("A", {{2000, 1}, {2000, 2}, {1500, 4}, {800, 5}});
-    settings.YHBL = 0.9F;
-    EXPECT_EQ(Run(1),
-              "A|800*5+1500|1|93.67|380\n"
-              "A|1500+2000*2|1|92.67|440\n"
-              "A|1500*2+2000|1|84.33|940");
-    settings.YHBL = 1;
-    settings.NODES = 5;
-    EXPECT_EQ(Run(1), "A|800+1500*2+2000|2|98|120\nA|800*3+2000|1|74.67|1520");
-    EXPECT_TRUE(notice_.shown.empty());
-}
-
-TEST_F(RunTest, LinearOptimiserPutsSmallPiecesOnOneRowAndReportsBadData) {
-    Demand("A", {{200, 100}});
-    EXPECT_EQ(Run(1), "A|200*100|1|66.67|2000");
-    settings.CLC = 0;  // a bar never set: every piece is longer
-    EXPECT_EQ(Run(1), "");
-    EXPECT_EQ(notice_.shown, (std::vector<std::string>{"提示|在数据检查时发现值:200大于根长度!"}));
-
-    // A length that only the last bars come to is reported after the rows of the others.
-    store_->Execute("Delete from 优化数据");
-    settings.CLC = 6000;
-    settings.NODES = 4;
-    Demand("A", {{3000, 4}, {7000, 1}});
-    EXPECT_EQ(Run(1), "A|3000*2|2|100|0");
-    EXPECT_EQ(notice_.shown.back(), "提示|在数据检查时发现值:7000大于根长度!");
+TEST_F(RunTest, BothSchemesFillBarsAndReportWhatTheyCannot) {
+    using Demanded = std::vector<std::pair<int, int>>;  // lengths and counts
+    const Demanded mixed = {{2000, 1}, {2000, 2}, {1500, 4}, {800, 5}};
+    const struct {
+        std::int16_t scheme, bar, allowance;
+        float ratio;
+        std::int16_t nodes;
+        Demanded demand;
+        const char *plan, *shown;
+    } rows[] = {
+        {0, 6000, 20, 1, 20, {{5980, 1}}, "A|5980|1|1|0", ""},  // exactly the bar
+        {0, 6000, 20, 1, 20, {{7000, 1}, {3000, 1}}, "A|3000|1|0.5033333|2980", "|过大：7020"},
+        {0, 6000, 20, 1, 20, {{8000, 1}, {7000, 1}}, "", "|过大：7020"},
+        {0, 6000, 20, 1, 20, {{-21, 1}, {500, 1}}, "", "|异常值：-1"},
+        {1, 6000, 20, 0.9F, 20, mixed,
+         "A|800*5+1500|1|93.67|380\nA|1500+2000*2|1|92.67|440\nA|1500*2+2000|1|84.33|940", ""},
+        {1, 6000, 20, 1, 5, mixed, "A|800+1500*2+2000|2|98|120\nA|800*3+2000|1|74.67|1520", ""},
+        {1, 6000, 0, 1, 20, {{200, 100}}, "A|200*100|1|66.67|2000", ""},  // small pieces: one row
+        {1, 0, 0, 1, 20, {{200, 100}}, "", "提示|在数据检查时发现值:200大于根长度!"},  // a bar never set
+        // A length that only the last bars come to is reported after the rows of the others.
+        {1,
+         6000,
+         0,
+         1,
+         4,
+         {{3000, 4}, {7000, 1}},
+         "A|3000*2|2|100|0",
+         "提示|在数据检查时发现值:7000大于根长度!"},
+        // Numbers beyond 16 bits, and divisions by zero.
+        {0, 6000, 10, 1, 20, {{100, 32768}}, "", "出错|溢出"},
+        {0, 6000, 10, 1, 20, {{32758, 1}}, "", "出错|溢出"},
+        {0, 6000, 10, 1, 20, {{-10, 1}}, "", "出错|除数为零"},
+        {1, 6000, 10, 1, 20, {{100, 32768}}, "", "出错|溢出"},
+        {1, 6000, 10, 1, 20, {{32758, 1}}, "", "出错|溢出"},
+        {1, 6000, 10, 1, 20, {{100, 20000}, {200, 12768}}, "", "出错|溢出"},  // the 32768th piece
+        {1, 6000, 10, 1, 0, {{1000, 9}}, "", "出错|除数为零"},
+        {1, 6000, 10, 1, 0, {{1000, 0}}, "", ""},
+    };
+    for (const auto& row : rows) {
+        store_->Execute("Delete from 优化数据");
+        notice_.shown.clear();
+        settings = {row.bar, 0, static_cast<std::int16_t>(row.allowance / 2), 0, row.ratio, "", row.nodes};
+        Demand("A", row.demand);
+        EXPECT_EQ(Run(row.scheme), row.plan);
+        EXPECT_EQ(notice_.shown.empty() ? "" : notice_.shown[0], row.shown) << row.plan;
+        EXPECT_LE(notice_.shown.size(), 1U);
+    }
 }
 
 TEST_F(RunTest, FailureEndsTheRunOrTheLinearMaterialOnly) {
@@ -96,32 +103,6 @@ TEST_F(RunTest, FailureEndsTheRunOrTheLinearMaterialOnly) {
     store_->Execute("Update 优化数据 set 长度=999 where 长度=1000");  // 100 characters
     EXPECT_EQ(Run(0, {"B"}).substr(0, 7), "B|1019+");
     EXPECT_EQ(notice_.shown.size(), 2u);
-}
-
-TEST_F(RunTest, NumbersBeyondSixteenBitsFail) {
-    const struct {
-        std::vector<std::pair<int, int>> demand;  // lengths and counts
-        std::int16_t scheme, nodes;
-        const char* shown;
-    } rows[] = {
-        {{{100, 32768}}, 0, 20, "出错|溢出"},
-        {{{32758, 1}}, 0, 20, "出错|溢出"},
-        {{{-10, 1}}, 0, 20, "出错|除数为零"},
-        {{{100, 32768}}, 1, 20, "出错|溢出"},
-        {{{32758, 1}}, 1, 20, "出错|溢出"},
-        {{{100, 20000}, {200, 12768}}, 1, 20, "出错|溢出"},  // the 32768th piece
-        {{{1000, 9}}, 1, 0, "出错|除数为零"},
-        {{{1000, 0}}, 1, 0, ""},
-    };
-    settings.CKK = 5;
-    for (const auto& row : rows) {
-        store_->Execute("Delete from 优化数据");
-        notice_.shown.clear();
-        settings.NODES = row.nodes;
-        Demand("A", row.demand);
-        EXPECT_EQ(Run(row.scheme), "");
-        EXPECT_EQ(notice_.shown.empty() ? "" : notice_.shown[0], row.shown);
-    }
 }
 
 TEST_F(RunTest, PlansCutExactlyTheDemand) {
