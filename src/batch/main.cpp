@@ -2,6 +2,7 @@
 #include <iostream>
 
 #include "batch/commands.h"
+#include "batch/wind_commands.h"
 
 using namespace kalvane;
 
@@ -36,9 +37,11 @@ std::vector<std::string> Arguments(int argc, char* argv[]) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    CLI::App application("Kalvane without a screen: formulas, bills of material and cutting plans",
-                         "kalvane-batch");
+    CLI::App application(
+        "Kalvane without a screen: formulas, bills of material, cutting plans and wind-pressure checks",
+        "kalvane-batch");
     application.require_subcommand(1);
+    const WindCommands wind(application);
 
     std::string formula;
     std::vector<std::string> labels;

@@ -23,15 +23,6 @@ constexpr double kDeflectionLimit = 30;  // mm
 constexpr double kThinGlass = 6;         // mm
 constexpr double kPi = 3.1415926;
 constexpr double kScrewShear = 35;
-constexpr double kPlastic = 1.05;             // share of a section that may yield
-constexpr double kTransomModulus = 22000;     // mm³
-constexpr double kTransomStatic = 24000;      // mm³
-constexpr double kTransomInertia = 980000;    // mm^4
-constexpr double kMullionModulus = 146190;    // mm³
-constexpr double kMullionStatic = 98745;      // mm³
-constexpr double kMullionInertia = 14765300;  // mm^4
-constexpr double kSteelBending = 215;
-constexpr double kSteelShear = 125;
 
 /// What a formula divides by, or what makes no sense at 0: read from a box, above 0.
 double Size(const FormTexts& texts, std::string_view name) {
@@ -104,12 +95,16 @@ void CheckFrame(const FullLoad& load, const FormTexts& detail, FullNumbers& numb
     numbers.mzh = numbers.qh * (h * h) / 8;
     numbers.shearB = numbers.qb * b / 2;
     numbers.shearH = numbers.qh * h / 2;
-    numbers.transomBending = Below(numbers.mzb / (kPlastic * kTransomModulus), kSteelBending);
-    numbers.mullionBending = Below(numbers.mzh / (kPlastic * kMullionModulus), kSteelBending);
-    numbers.transomShear =
-        Below(numbers.shearB * kTransomStatic / (kTransomInertia * numbers.steel), kSteelShear);
-    numbers.mullionShear =
-        Below(numbers.shearH * kMullionStatic / (kMullionInertia * numbers.steel), kSteelShear);
+    const auto bending = [](double moment, const BarSection& section) {
+        return Below(moment / (kPlasticShare * section.modulus), kSteelBending);
+    };
+    const auto shear = [&numbers](double force, const BarSection& section) {
+        return Below(force * section.statical / (section.inertia * numbers.steel), kSteelShear);
+    };
+    numbers.transomBending = bending(numbers.mzb, kTransomSection);
+    numbers.mullionBending = bending(numbers.mzh, kMullionSection);
+    numbers.transomShear = shear(numbers.shearB, kTransomSection);
+    numbers.mullionShear = shear(numbers.shearH, kMullionSection);
 }
 
 /// A number beyond the range of 64 bits shows as an infinity, or as none at all, in what follows from it.

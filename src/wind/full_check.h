@@ -18,6 +18,20 @@ struct FullLoad {
     std::int16_t highest = 0;
 };
 
+/// Section of a reinforced frame bar. The same two stand in every report, whatever steel is named.
+struct BarSection {
+    double inertia;   ///< mm^4
+    double modulus;   ///< mm³
+    double statical;  ///< first moment of half the section, mm³
+};
+inline constexpr BarSection kTransomSection{980000, 22000, 24000};
+inline constexpr BarSection kMullionSection{14765300, 146190, 98745};
+
+// Strengths of the steel in a frame, N/mm², and the share of its section that may yield.
+inline constexpr double kSteelBending = 215;
+inline constexpr double kSteelShear = 125;
+inline constexpr double kPlasticShare = 1.05;
+
 /// A value beside its limit.
 struct Tested {
     double value = 0;

@@ -2,15 +2,12 @@
 
 #include "numeric/assertion.h"
 #include "numeric/number.h"
+#include "wind/verdict.h"
 
 namespace kalvane {
 namespace {
 
 using Lines = std::vector<std::string>;
-
-std::string Verdict(bool passes) {
-    return passes ? "合格" : "不合格";
-}
 
 std::string Whole(std::int16_t value) {
     return ShortText(std::int64_t{value});
@@ -83,7 +80,7 @@ Lines AreaLines(const FullNumbers& numbers) {
         "           Wk    风荷载标准值",
         "      计算结果:" + ShortText(numbers.area.limit),
         "       玻璃面积为:" + ShortText(numbers.area.value),
-        "       计算结果:" + Verdict(numbers.area.passes),
+        "       计算结果:" + VerdictWord(numbers.area.passes),
         "",
     };
 }
@@ -104,7 +101,7 @@ Lines BendingLines(const FullLoad& load, const FullNumbers& numbers) {
         "       Q1 = " + ShortText(numbers.q1),
         "       最大弯曲应力：" + ShortText(numbers.bending.value),
         "       弯曲强度设计值:" + ShortText(numbers.bending.limit) + " N/mm^2",
-        "       校核结果:" + Verdict(numbers.bending.passes),
+        "       校核结果:" + VerdictWord(numbers.bending.passes),
         "",
     };
 }
@@ -130,7 +127,7 @@ Lines TemperatureLines(const FullNumbers& numbers) {
         "   计算结果：",
         "       年温度应力值：" + ShortText(numbers.temperature.value) + "N/mm^2",
         "       玻璃边缘强度：19.5 N/mm^2",
-        "       校核结果：" + Verdict(numbers.temperature.passes),
+        "       校核结果：" + VerdictWord(numbers.temperature.passes),
         "",
     };
 }
@@ -151,7 +148,7 @@ Lines DeflectionLines(const FullNumbers& numbers) {
         "       Q2 = 0.00528392",
         "       q = 1.0N/mm^2",
         "       跨中最大挠度：" + ShortText(numbers.deflection.value) + "mm",
-        "       校核结果：" + Verdict(numbers.deflection.passes),
+        "       校核结果：" + VerdictWord(numbers.deflection.passes),
         "",
     };
 }
@@ -271,19 +268,19 @@ Lines StressLines(const FullNumbers& numbers) {
         "   计算结果：",
         "       横框正应力:" + ShortText(numbers.transomBending.value),
         "       材料抗弯强度设计值: 215 N/mm^2",
-        "       校核结果：" + Verdict(numbers.transomBending.passes),
+        "       校核结果：" + VerdictWord(numbers.transomBending.passes),
         "",
         "       立框正应力：" + ShortText(numbers.mullionBending.value),
         "       材料抗弯强度设计值：215",
-        "       校核结果：" + Verdict(numbers.mullionBending.passes),
+        "       校核结果：" + VerdictWord(numbers.mullionBending.passes),
         "",
         "       横框剪应力：" + ShortText(numbers.transomShear.value),
         "       材料抗剪强度设计值：125 N/mm^2",
-        "       校核结果：" + Verdict(numbers.transomShear.passes),
+        "       校核结果：" + VerdictWord(numbers.transomShear.passes),
         "",
         "       立框剪应力：" + ShortText(numbers.mullionShear.value),
         "       材料抗剪强度设计值：125 N/mm^2",
-        "       校核结果：" + Verdict(numbers.mullionShear.passes),
+        "       校核结果：" + VerdictWord(numbers.mullionShear.passes),
     };
 }
 

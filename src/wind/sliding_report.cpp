@@ -3,19 +3,20 @@
 #include "numeric/number.h"
 #include "numeric/text.h"
 #include "wind/sliding_form.h"
+#include "wind/verdict.h"
 
 namespace kalvane {
 namespace {
 
 /// Writes lines at their indents.
-class ReportText {
+class ReportLines {
   public:
-    explicit ReportText(const FormTexts& texts) : texts_(texts) {}
+    explicit ReportLines(const FormTexts& texts) : texts_(texts) {}
 
-    void Heading(const std::string& line) { text_ += line + "\r\n"; }
+    void Heading(std::string line) { lines_.push_back(std::move(line)); }
     void SubHeading(const std::string& line) { Heading("\t" + line); }
     void Item(const std::string& line) { Heading("\t\t" + line); }
-    void Verdict(const std::string& caption, bool passes) { Item(caption + (passes ? "合格" : "不合格")); }
+    void Verdict(const std::string& caption, bool passes) { Item(caption + VerdictWord(passes)); }
     /// A numbered item with what stands in a box, or in two.
     void Input(int number, const std::string& caption, std::string_view box) {
         Numbered(number, caption, texts_.Text(box));
@@ -24,7 +25,7 @@ class ReportText {
         Numbered(number, caption, texts_.Text(box) + "*" + texts_.Text(second));
     }
 
-    std::string Take() { return std::move(text_); }
+    std::vector<std::string> Take() { return std::move(lines_); }
 
   private:
     void Numbered(int number, const std::string& caption, const std::string& text) {
@@ -33,10 +34,10 @@ class ReportText {
     }
 
     const FormTexts& texts_;
-    std::string text_;
+    std::vector<std::string> lines_;
 };
 
-void WriteBasis(ReportText& report, std::string_view basis) {
+void WriteBasis(ReportLines& report, std::string_view basis) {
     do {
         std::string_view line = TakeUpTo(basis, "\n");
         if (line.ends_with('\r')) line.remove_suffix(1);
@@ -44,7 +45,7 @@ void WriteBasis(ReportText& report, std::string_view basis) {
     } while (!basis.empty());
 }
 
-void WriteInputs(ReportText& report, bool hasTopLight) {
+void WriteInputs(ReportLines& report, bool hasTopLight) {
     report.SubHeading("(一)基础数据：");
     report.Input(1, "城市：", "txtCS");
     report.Input(2, "基本风压：", "txtFYZ");
@@ -62,7 +63,7 @@ void WriteInputs(ReportText& report, bool hasTopLight) {
     report.Input(number, "型钢惯性矩：", "txtXGGXG");
 }
 
-void WriteLoad(ReportText& report, const SlidingNumbers& numbers) {
+void WriteLoad(ReportLines& report, const SlidingNumbers& numbers) {
     report.SubHeading("(二) 计算标准风压值：");
     report.Item(std::string("计算公式：Wk = Bgz * us * uz * Wo") + (numbers.isHigh ? " * 110%" : ""));
     report.Item("风荷载标准值：    Wk");
@@ -73,7 +74,7 @@ void WriteLoad(ReportText& report, const SlidingNumbers& numbers) {
     report.Item("计算结果：Wk = " + ShortText(numbers.wk) + "千牛/平方米");
 }
 
-void WriteGlass(ReportText& report, const SlidingNumbers& numbers) {
+void WriteGlass(ReportLines& report, const SlidingNumbers& numbers) {
     report.SubHeading("(三) 计算单片玻璃最大许用面积：");
     report.Item(numbers.isThick ? "计算公式：Amax = (a * (0.2 * t^1.6 + 0.8)) / Wk"
                                 : "计算公式：Amax = (0.2 * at^1.8) / Wk");
@@ -86,7 +87,7 @@ void WriteGlass(ReportText& report, const SlidingNumbers& numbers) {
     report.Verdict("校核结论：", numbers.glassPasses);
 }
 
-void WriteModel(ReportText& report, const SlidingLayout& layout) {
+void WriteModel(ReportLines& report, const SlidingLayout& layout) {
     report.Item(layout.hasTopLight ? "计算公式：Fmax = (Q1 * L^3) / 64EI + (Q2 * L^3) / 60EI"
                                    : "计算公式：Fmax = (Q * L^3) / 64EI");
     report.Item("Wk : 风压设计标准值");
@@ -108,7 +109,7 @@ void WriteModel(ReportText& report, const SlidingLayout& layout) {
     }
 }
 
-void WriteSteel(ReportText& report, const FormTexts& texts, const SlidingNumbers& numbers) {
+void WriteSteel(ReportLines& report, const FormTexts& texts, const SlidingNumbers& numbers) {
     report.SubHeading("(四) 计算窗挠度：");
     WriteModel(report, LayoutOf(texts));
     report.Item("E  : 型钢弹性模量(2.1 * 10^5 牛/平方毫米)");
@@ -120,8 +121,8 @@ void WriteSteel(ReportText& report, const FormTexts& texts, const SlidingNumbers
 
 }  // namespace
 
-std::string SlidingReport(const FormTexts& texts, const SlidingNumbers& numbers) {
-    ReportText report(texts);
+std::vector<std::string> SlidingReport(const FormTexts& texts, const SlidingNumbers& numbers) {
+    ReportLines report(texts);
     report.Heading("");
     report.Heading("\t\t\t塑钢门窗抗风压校核报告");
     report.Heading("");

@@ -6,11 +6,15 @@
 #include <string_view>
 
 #include "page/wrap_text.h"
+#include "wind/sliding_report.h"
 
 namespace kalvane {
 namespace {
 
 constexpr PageFont kLineFont{9, false};
+constexpr PageFont kSlidingTitleFont{kSlidingTitlePoints, false};
+constexpr PageFont kSlidingBodyFont{kSlidingBodyPoints, false};
+constexpr float kTab = 720;  // twips
 constexpr PageFont kProjectFont{22, false};
 constexpr PageFont kTitleFont{42, true};
 constexpr PageFont kCoverFont{16, false};
@@ -74,6 +78,29 @@ void PaintFullReport(PageTarget& page, const std::vector<std::string>& lines) {
         if (!line.empty()) page.DrawText(metrics.left, placed.y, line);
     }
     PaintFooter(page, metrics, number);
+    page.EndDocument();
+}
+
+void PaintSlidingReport(PageTarget& page, const std::vector<std::string>& lines) {
+    const FullPageMetrics metrics = FullPageMetrics::Of(page.Width(), page.Height());
+    const float left = metrics.top;
+    float y = metrics.top;
+    bool isTitle = true;  // until a line with a text has been printed
+    for (const std::string& line : lines) {
+        page.SetFont(isTitle ? kSlidingTitleFont : kSlidingBodyFont);
+        const std::size_t tabs = std::min(line.find_first_not_of('\t'), line.size());
+        const float x = left + kTab * static_cast<float>(tabs);
+        const float height = page.TextHeight("A");
+        for (const std::string& part : WrapText(page, line.substr(tabs), page.Width() - left - x)) {
+            if (y + height > metrics.bottom) {
+                page.NewPage();
+                y = metrics.top;
+            }
+            if (!part.empty()) page.DrawText(x, y, part);
+            y += height;
+        }
+        if (!line.empty()) isTitle = false;
+    }
     page.EndDocument();
 }
 

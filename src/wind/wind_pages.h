@@ -29,6 +29,10 @@ std::vector<PlacedLine> PlaceLines(const FullPageMetrics& metrics, float textHei
 /// Prints the lines of the full report, each page with its number at the foot, as one document.
 void PaintFullReport(PageTarget& page, const std::vector<std::string>& lines);
 
+/// Prints the lines of a sliding window's report as one document: the title and the lines below it in their
+/// sizes, tabs of half an inch. A line too long for the page goes on at its indent.
+void PaintSlidingReport(PageTarget& page, const std::vector<std::string>& lines);
+
 /// What stands on the cover besides its fixed texts.
 struct CoverTexts {
     std::string project;

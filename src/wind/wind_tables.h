@@ -37,24 +37,24 @@ float SteelInertia(std::size_t type, std::size_t thickness);
 /// Edge ratios (shorter by longer) with their bending coefficient: the largest moment of a pane that is
 /// simply supported at four edges is coefficient × load × shorter edge². JGJ 102, glass
 /// curtain walls, the table of m.
-struct BendingRow {
+struct RatioRow {
     double ratio;
     double coefficient;
 };
-inline constexpr std::array<BendingRow, 15> kBending = {{{0.00, 0.1250},
-                                                         {0.25, 0.1230},
-                                                         {0.33, 0.1180},
-                                                         {0.40, 0.1115},
-                                                         {0.50, 0.1000},
-                                                         {0.55, 0.0934},
-                                                         {0.60, 0.0868},
-                                                         {0.65, 0.0804},
-                                                         {0.70, 0.0742},
-                                                         {0.75, 0.0683},
-                                                         {0.80, 0.0628},
-                                                         {0.85, 0.0576},
-                                                         {0.90, 0.0528},
-                                                         {0.95, 0.0483},
-                                                         {1.00, 0.0442}}};
+inline constexpr std::array<RatioRow, 15> kBending = {{{0.00, 0.1250},
+                                                       {0.25, 0.1230},
+                                                       {0.33, 0.1180},
+                                                       {0.40, 0.1115},
+                                                       {0.50, 0.1000},
+                                                       {0.55, 0.0934},
+                                                       {0.60, 0.0868},
+                                                       {0.65, 0.0804},
+                                                       {0.70, 0.0742},
+                                                       {0.75, 0.0683},
+                                                       {0.80, 0.0628},
+                                                       {0.85, 0.0576},
+                                                       {0.90, 0.0528},
+                                                       {0.95, 0.0483},
+                                                       {1.00, 0.0442}}};
 
 }  // namespace kalvane
