@@ -10,8 +10,8 @@ namespace {
 constexpr std::size_t kNameSlot = 2;
 constexpr std::size_t kDrawingSlot = 4;
 
-std::vector<TypeNode> LoadLevel(Connection& connection, const char* kind, const std::string& select) {
-    std::vector<TypeNode> nodes;
+std::vector<TreeNode> LoadLevel(Connection& connection, const char* kind, const std::string& select) {
+    std::vector<TreeNode> nodes;
     for (Cursor row = connection.OpenCursor(select); !row.Eof(); row.MoveNext()) {
         nodes.push_back(
             {row.Field("名称").TextOrEmpty(), MakeKey(kind, row.Field("编号").TextOrEmpty()), {}});
@@ -22,15 +22,15 @@ std::vector<TypeNode> LoadLevel(Connection& connection, const char* kind, const 
 }  // namespace
 
 bool IsWindowType(std::string_view tag) {
-    return KeyKind(tag) == "3";
+    return KeyKind(tag) == kWindowTypeKind;
 }
 
-std::vector<TypeNode> LoadWindowTypes(Connection& connection) {
-    std::vector<TypeNode> makers = LoadLevel(connection, "1", "Select * from 门窗厂家 order by 编号");
-    for (TypeNode& maker : makers) {
+std::vector<TreeNode> LoadWindowTypes(Connection& connection) {
+    std::vector<TreeNode> makers = LoadLevel(connection, "1", "Select * from 门窗厂家 order by 编号");
+    for (TreeNode& maker : makers) {
         maker.children = LoadLevel(
             connection, "2", "Select * from 门窗系列 Where 厂家编号=" + KeyId(maker.tag) + " order by 编号");
-        for (TypeNode& series : maker.children) {
+        for (TreeNode& series : maker.children) {
             series.children = LoadLevel(
                 connection, "3", "Select * from 门窗 Where 系列编号=" + KeyId(series.tag) + " order by 名称");
         }

@@ -6,22 +6,20 @@
 
 #include "store/connection.h"
 #include "store/field_slots.h"
+#include "store/tree_node.h"
 
 namespace kalvane {
 
-/// A node of the tree of window types. The tag's first character is the level: "1" a maker, "2" a series,
-/// "3" a window type; the rest is the number of the row (see KeyKind and KeyId).
-struct TypeNode {
-    std::string name;
-    std::string tag;
-    std::vector<TypeNode> children;
-};
+// A node's kind is its level: "1" a maker, "2" a series, "3" a window type.
+
+/// Kind of the leaves.
+inline constexpr const char* kWindowTypeKind = "3";
 
 /// Only a node of the third level is a window type.
 bool IsWindowType(std::string_view tag);
 
 /// Makers with their series and these with their window types. Throws StoreError.
-std::vector<TypeNode> LoadWindowTypes(Connection& connection);
+std::vector<TreeNode> LoadWindowTypes(Connection& connection);
 
 /// Reads the row of a window type to `slots` and returns its drawing's number. Throws StoreError when there
 /// is no such window type or no drawing was chosen for it.

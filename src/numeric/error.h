@@ -36,6 +36,17 @@ class StoreError : public Error {
     using Error::Error;
 };
 
+/// A value does not fit the column it was to be written to.
+class ColumnError : public StoreError {
+  public:
+    ColumnError(std::string column, const std::string& text) : StoreError(text), column_(std::move(column)) {}
+
+    const std::string& Column() const { return column_; }
+
+  private:
+    std::string column_;
+};
+
 /// A store file is damaged, or no store at all.
 class StoreDamage : public StoreError {
   public:

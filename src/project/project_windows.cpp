@@ -38,14 +38,6 @@ std::vector<LabelRow> LoadLabels(Connection& connection, std::string_view window
     return labels;
 }
 
-std::vector<LabelRow> LabelsOfDrawing(const PrimitiveList<TextItem>& texts) {
-    std::vector<LabelRow> labels;
-    for (const TextItem& item : texts) {
-        labels.push_back({item.text, "0", ShortText(item.at.x), ShortText(item.at.y)});
-    }
-    return labels;
-}
-
 std::string AddWindow(Connection& connection, const WindowEntry& window, std::span<const LabelRow> labels) {
     std::string number;
     InCommand(connection, [&] {

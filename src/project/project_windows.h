@@ -5,8 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "drawing/primitive_list.h"
-#include "drawing/primitives.h"
+#include "project/labels.h"
 #include "store/connection.h"
 
 namespace kalvane {
@@ -25,14 +24,6 @@ struct WindowEntry {
     std::string number;         ///< 编号
 };
 
-/// A label of a plain project window: a dimension of its drawing. All texts, as they are shown.
-struct LabelRow {
-    std::string name;   ///< as in the drawing and the formulas
-    std::string value;  ///< as typed; "0" until then
-    std::string x;      ///< position in drawing units
-    std::string y;
-};
-
 // Numbers are put into the statements bare, as they were typed, texts between quotes, and a quote in one
 // breaks its statement. Every routine throws StoreError when the store refuses a statement; what was
 // executed before it stays. Each change is one command.
@@ -42,9 +33,6 @@ std::vector<WindowEntry> ListWindows(Connection& connection, std::string_view pr
 
 /// The labels that were saved with a window.
 std::vector<LabelRow> LoadLabels(Connection& connection, std::string_view windowNumber);
-
-/// The labels of a new window, one for each text of the drawing, with the value "0".
-std::vector<LabelRow> LabelsOfDrawing(const PrimitiveList<TextItem>& texts);
 
 /// Adds a window with its labels under the next number and returns that number; `window.number` is
 /// ignored. A label's name of more than five characters is refused, after the window was written.

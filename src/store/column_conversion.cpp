@@ -15,8 +15,9 @@ std::string Shown(const EngineValue& value) {
 }
 
 [[noreturn]] void Refuse(const WrittenValue& target, const EngineValue& value, const std::string& reason) {
-    throw StoreError("“" + std::string(target.table->name) + "”的“" + std::string(target.column->name) +
-                     "”不能写入“" + Shown(value) + "”：" + reason + "。");
+    const std::string column(target.column->name);
+    throw ColumnError(column, "“" + std::string(target.table->name) + "”的“" + column + "”不能写入“" +
+                                  Shown(value) + "”：" + reason + "。");
 }
 
 double AsNumber(const WrittenValue& target, const EngineValue& value) {

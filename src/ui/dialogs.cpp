@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 
 #include "ui/file_filter.h"
@@ -50,14 +51,14 @@ class RealDialogs final : public Dialogs {
         ShowBox(parent, text, title, ToToolkitIcon(icon), QMessageBox::Ok);
     }
 
-    bool AskYesNo(QWidget* parent, const QString& text, const QString& title) override {
-        return ShowBox(parent, text, title, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No) ==
-               QMessageBox::Yes;
+    bool AskYesNo(QWidget* parent, const QString& text, const QString& title, Answer usual) override {
+        return ShowBox(parent, text, title, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No,
+                       usual == Answer::Yes ? QMessageBox::Yes : QMessageBox::No) == QMessageBox::Yes;
     }
 
-    bool AskOkCancel(QWidget* parent, const QString& text, const QString& title) override {
-        return ShowBox(parent, text, title, QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel) ==
-               QMessageBox::Ok;
+    bool AskOkCancel(QWidget* parent, const QString& text, const QString& title, Answer usual) override {
+        return ShowBox(parent, text, title, QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel,
+                       usual == Answer::Yes ? QMessageBox::Ok : QMessageBox::Cancel) == QMessageBox::Ok;
     }
 
     std::optional<QString> InputText(QWidget* parent, const QString& title, const QString& prompt,
@@ -80,22 +81,22 @@ class RealDialogs final : public Dialogs {
         return Choose(dialog, purpose);
     }
 
-    QString SaveFileName(QWidget* parent, const QString& purpose, const QString& filter,
-                         const QString& defaultSuffix, bool askOverwrite) override {
-        QFileDialog dialog(Over(parent), QStringLiteral("另存为"), RememberedFolder(purpose),
-                           ToToolkitFilter(filter));
+    QString SaveFileName(QWidget* parent, const SaveRequest& request) override {
+        QFileDialog dialog(Over(parent), QStringLiteral("另存为"), RememberedFolder(request.purpose),
+                           ToToolkitFilter(request.filter));
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setFileMode(QFileDialog::AnyFile);
-        dialog.setDefaultSuffix(defaultSuffix);
+        dialog.setDefaultSuffix(request.suffix);
         dialog.setLabelText(QFileDialog::Accept, QStringLiteral("保存"));
         // The question is asked below, in our own words.
         dialog.setOption(QFileDialog::DontConfirmOverwrite);
+        if (!request.name.isEmpty()) dialog.selectFile(FileName(request));
         for (;;) {
-            const QString file = Choose(dialog, purpose);
-            if (file.isEmpty() || !askOverwrite || !QFileInfo::exists(file)) return file;
+            const QString file = Choose(dialog, request.purpose);
+            if (file.isEmpty() || !request.asksOverwrite || !QFileInfo::exists(file)) return file;
             const QString question =
                 QStringLiteral("文件“%1”已经存在，要替换它吗？").arg(QFileInfo(file).fileName());
-            if (AskYesNo(parent, question, QStringLiteral("提示"))) return file;
+            if (AskYesNo(parent, question, PromptTitle(), Answer::Yes)) return file;
         }
     }
 
@@ -109,13 +110,24 @@ class RealDialogs final : public Dialogs {
     }
 
     static int ShowBox(QWidget* parent, const QString& text, const QString& title, QMessageBox::Icon icon,
-                       QMessageBox::StandardButtons buttons) {
+                       QMessageBox::StandardButtons buttons,
+                       QMessageBox::StandardButton usual = QMessageBox::NoButton) {
         QMessageBox box(icon, Titled(title), text, buttons, Over(parent));
+        box.setDefaultButton(usual);
         box.setTextFormat(Qt::PlainText);  // texts may hold what the operator typed
         for (QAbstractButton* button : box.buttons()) {
             button->setText(ButtonCaption(box.standardButton(button)));
         }
         return box.exec();
+    }
+
+    /// The suggested name without what no file name may hold.
+    static QString FileName(const SaveRequest& request) {
+        QString name = request.name;
+        for (QChar& c : name) {
+            if (c == QLatin1Char('/') || c < QLatin1Char(' ')) c = QLatin1Char('-');
+        }
+        return name + QLatin1Char('.') + request.suffix;
     }
 
     static QString Choose(QFileDialog& dialog, const QString& purpose) {
@@ -145,6 +157,28 @@ Dialogs& UseDialogs() {
 
 void SetDialogs(Dialogs* dialogs) {
     Replacement() = dialogs;
+}
+
+QString PromptTitle() {
+    return QStringLiteral("提示");
+}
+
+void Tell(QWidget* parent, const QString& text) {
+    UseDialogs().Message(parent, text, PromptTitle(), NoticeIcon::Information);
+}
+
+void TellAt(QWidget* parent, const QString& text, QWidget* control) {
+    Tell(parent, text);
+    control->setFocus();
+    if (auto* box = qobject_cast<QLineEdit*>(control)) box->selectAll();
+}
+
+bool Ask(QWidget* parent, const QString& text) {
+    return UseDialogs().AskYesNo(parent, text, PromptTitle(), Dialogs::Answer::Yes);
+}
+
+bool AskToLose(QWidget* parent, const QString& text) {
+    return UseDialogs().AskYesNo(parent, text, PromptTitle(), Dialogs::Answer::No);
 }
 
 }  // namespace kalvane

@@ -18,6 +18,10 @@ void EntryScreen::EnterMovesTo(QWidget* control, QWidget* next) {
     });
 }
 
+void EntryScreen::EnterWalks(std::span<QLineEdit* const> boxes) {
+    for (std::size_t i = 0; i + 1 < boxes.size(); ++i) EnterMovesTo(boxes[i], boxes[i + 1]);
+}
+
 void EntryScreen::FocusAll(QLineEdit* box) {
     box->setFocus();
     box->selectAll();
@@ -26,9 +30,7 @@ void EntryScreen::FocusAll(QLineEdit* box) {
 bool EntryScreen::AllFilled(std::span<QLineEdit* const> boxes) {
     for (QLineEdit* box : boxes) {
         if (!box->text().isEmpty()) continue;
-        UseDialogs().Message(this, QStringLiteral("数据不能为空！"), QStringLiteral("提示"),
-                             NoticeIcon::Information);
-        box->setFocus();
+        TellAt(this, QStringLiteral("数据不能为空！"), box);
         return false;
     }
     return true;

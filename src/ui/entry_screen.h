@@ -23,6 +23,8 @@ class EntryScreen : public Screen {
     void OnEnter(QWidget* control, std::function<void()> action) { enter_[control] = std::move(action); }
     /// Enter moves on to `next`; the text of a box there is selected.
     void EnterMovesTo(QWidget* control, QWidget* next);
+    /// Enter moves from each box to the next.
+    void EnterWalks(std::span<QLineEdit* const> boxes);
 
     static void FocusAll(QLineEdit* box);
 

@@ -47,10 +47,10 @@ frmPreview::frmPreview(PageDocument document, QWidget* parent)
       print_(MakeButton("CmdPrint", QStringLiteral("打印 &P"), this)),
       pdf_(MakeButton("CmdPdf", QStringLiteral("另存为PDF &S"), this)),
       place_(new QLabel),
-      told_(new QLabel) {
+      delivered_(new QLabel) {
     printers_->setObjectName(QStringLiteral("CmbPrinter"));
     zoom_->setObjectName(QStringLiteral("CmbZoom"));
-    told_->setObjectName(QStringLiteral("LblTold"));
+    delivered_->setObjectName(QStringLiteral("LblTold"));
     zoom_->addItem(QStringLiteral("整页"));
     zoom_->addItem(QStringLiteral("页宽"));
     for (const int percent : kPercents) zoom_->addItem(QStringLiteral("%1%").arg(percent), percent);
@@ -84,7 +84,7 @@ void frmPreview::LayOut() {
 
     auto* status = new QHBoxLayout;
     status->addWidget(place_);
-    status->addWidget(told_, 1);
+    status->addWidget(delivered_, 1);
     status->addWidget(new QLabel(QStringLiteral("显示比例：")));
     status->addWidget(zoom_);
 
@@ -144,20 +144,21 @@ void frmPreview::Print() {
     const int last = qMax(first_->value(), last_->value());
     document_.Print(printers_->currentText(), copies_->value(), first - 1, last - 1);
     Remember(kPrinterKey, printers_->currentText());
-    Tell(QStringLiteral("已送往打印机“%1”。").arg(printers_->currentText()));
+    ShowDelivered(QStringLiteral("已送往打印机“%1”。").arg(printers_->currentText()));
 }
 
 void frmPreview::SavePdf() {
     const QString file = UseDialogs().SaveFileName(
-        this, QStringLiteral("pdf"), QStringLiteral("PDF 文件|*.pdf"), QStringLiteral("pdf"), true);
+        this,
+        {QStringLiteral("pdf"), QStringLiteral("PDF 文件|*.pdf"), QStringLiteral("pdf"), document_.Title()});
     if (file.isEmpty()) return;
     document_.WritePdf(FromQt(file));
-    Tell(QStringLiteral("已保存：%1").arg(file));
+    ShowDelivered(QStringLiteral("已保存：%1").arg(file));
 }
 
-void frmPreview::Tell(const QString& text) {
-    wasPutOut_ = true;
-    told_->setText(text);
+void frmPreview::ShowDelivered(const QString& text) {
+    isDelivered_ = true;
+    delivered_->setText(text);
 }
 
 }  // namespace kalvane

@@ -21,7 +21,7 @@ class frmPreview : public Screen {
     frmPreview(PageDocument document, QWidget* parent);
 
     /// True once the document was printed or saved.
-    bool WasPutOut() const { return wasPutOut_; }
+    bool IsDelivered() const { return isDelivered_; }
 
   private:
     void LayOut();
@@ -32,10 +32,10 @@ class frmPreview : public Screen {
     void StepZoom(int direction);
     void Print();
     void SavePdf();
-    void Tell(const QString& text);
+    void ShowDelivered(const QString& text);
 
     const PageDocument document_;
-    bool wasPutOut_ = false;
+    bool isDelivered_ = false;
     PageView* pages_;
     QComboBox* printers_;
     QSpinBox* copies_;
@@ -45,7 +45,7 @@ class frmPreview : public Screen {
     QPushButton* print_;
     QPushButton* pdf_;
     QLabel* place_;
-    QLabel* told_;
+    QLabel* delivered_;
 };
 
 }  // namespace kalvane

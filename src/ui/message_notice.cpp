@@ -10,7 +10,7 @@ void MessageNotice::Show(const std::string& text, const std::string& title, Noti
 }
 
 bool MessageNotice::Confirm(const std::string& text, const std::string& title) {
-    return UseDialogs().AskYesNo(parent_, ToQt(text), ToQt(title));
+    return UseDialogs().AskYesNo(parent_, ToQt(text), ToQt(title), Dialogs::Answer::Yes);
 }
 
 }  // namespace kalvane

@@ -9,7 +9,7 @@ bool PrintDocument(QWidget* parent, const QString& title, const PageSetup& setup
     if (document.IsEmpty()) return false;
     frmPreview preview(std::move(document), parent);
     preview.exec();
-    return preview.WasPutOut();
+    return preview.IsDelivered();
 }
 
 }  // namespace kalvane

@@ -22,53 +22,52 @@ QLayout* Headed(const QString& heading, QWidget* list) {
 
 }  // namespace
 
-PickLists::PickLists(const QStringList& columns, const Captions& captions, QWidget* screen)
+PickLists::PickLists(const PickSetup& setup, QWidget* screen)
     : QWidget(screen),
-      offered_(new ReportList(QStringLiteral("LvwR"), columns, this)),
-      chosen_(new ReportList(QStringLiteral("LvwD"), columns, this)) {
-    QPushButton* move = MakeButton("CmdMove", captions.move, this);
-    QPushButton* remove = MakeButton("CmdRemove", captions.remove, this);
-    QPushButton* moveAll = MakeButton("CmdMoveAll", captions.moveAll, this);
-    QPushButton* removeAll = MakeButton("CmdRemoveAll", captions.removeAll, this);
-
+      copies_(setup.copies),
+      offered_(new ReportList(setup.offeredName, setup.columns, this)),
+      chosen_(new ReportList(setup.chosenName, setup.columns, this)) {
+    chosen_->KeepOrder();
     auto* buttons = new QVBoxLayout;
     buttons->addStretch();
-    for (QPushButton* button : {move, remove, moveAll, removeAll}) buttons->addWidget(button);
+    const auto add = [&](const PickCommand& command, bool chooses, bool all) {
+        QPushButton* button = MakeButton(command.name, command.caption, this);
+        buttons->addWidget(button);
+        ReportList* from = chooses ? offered_ : chosen_;
+        const auto take = [this, from, chooses, all, complaint = command.complaint] {
+            Take(chooses, all ? from->AllRows() : from->SelectedRows(), complaint);
+        };
+        OnSignal(button, &QPushButton::clicked, this, take);
+        if (!all) OnSignal(from, &ReportList::itemActivated, this, take);
+    };
+    add(setup.choose, true, false);
+    add(setup.remove, false, false);
+    add(setup.chooseAll, true, true);
+    add(setup.removeAll, false, true);
     buttons->addStretch();
+    for (ReportList* list : {offered_, chosen_}) list->SelectSeveral();
+
     auto* all = new QHBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
-    all->addLayout(Headed(QStringLiteral("可选："), offered_), 1);
+    all->addLayout(Headed(setup.offeredHeading, offered_), 1);
     all->addLayout(buttons);
-    all->addLayout(Headed(QStringLiteral("已选："), chosen_), 1);
-
-    const auto moveSelected = [this] { MoveSelected(*offered_, *chosen_, QStringLiteral("无选择移动对象")); };
-    const auto removeSelected = [this] {
-        MoveSelected(*chosen_, *offered_, QStringLiteral("无选择移除对象"));
-    };
-    OnSignal(move, &QPushButton::clicked, this, moveSelected);
-    OnSignal(offered_, &ReportList::itemActivated, this, moveSelected);
-    OnSignal(remove, &QPushButton::clicked, this, removeSelected);
-    OnSignal(chosen_, &ReportList::itemActivated, this, removeSelected);
-    OnSignal(moveAll, &QPushButton::clicked, this, [this] { MoveAll(*offered_, *chosen_); });
-    OnSignal(removeAll, &QPushButton::clicked, this, [this] { MoveAll(*chosen_, *offered_); });
+    all->addLayout(Headed(setup.chosenHeading, chosen_), 1);
 }
 
-void PickLists::MoveSelected(ReportList& from, ReportList& to, const QString& complaint) {
-    const int row = from.SelectedRow();
-    if (row < 0) {
-        UseDialogs().Message(this, complaint, QStringLiteral("提示"), NoticeIcon::Information);
-        return;
+void PickLists::Take(bool chooses, const std::vector<int>& rows, const QString& complaint) {
+    if (rows.empty()) {
+        if (!complaint.isEmpty()) Tell(window(), complaint);
+    } else if (!copies_) {
+        (chooses ? offered_ : chosen_)->MoveRows(rows, chooses ? *chosen_ : *offered_);
+    } else if (chooses) {
+        QList<QStringList> texts;
+        for (const int row : rows) texts << offered_->Row(row);
+        chosen_->AddRows(texts);
+    } else if (rows.size() == chosen_->AllRows().size()) {
+        chosen_->Clear();
+    } else {
+        for (auto row = rows.rbegin(); row != rows.rend(); ++row) chosen_->RemoveRow(*row);
     }
-    MoveRow(from, to, row);
-}
-
-void PickLists::MoveRow(ReportList& from, ReportList& to, int row) {
-    to.AddRow(from.Row(row), from.Tag(row));
-    from.RemoveRow(row);
-}
-
-void PickLists::MoveAll(ReportList& from, ReportList& to) {
-    while (from.RowCount() > 0) MoveRow(from, to, 0);
 }
 
 }  // namespace kalvane

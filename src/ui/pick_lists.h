@@ -1,34 +1,50 @@
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
 
 namespace kalvane {
 
 class ReportList;
 
-/// Two lists with the same columns, what can be chosen (`LvwR`) and what is chosen (`LvwD`), and the buttons
-/// that move rows between them. A double click or Enter moves a row as well.
+/// One command of two lists: its control's name, its caption, and what it says when there is nothing to take
+/// (empty: it says nothing).
+struct PickCommand {
+    const char* name;
+    QString caption;
+    QString complaint{};
+};
+
+/// How two lists look and behave.
+struct PickSetup {
+    QString offeredName;  ///< of the list to choose from
+    QString chosenName;
+    QString offeredHeading;
+    QString chosenHeading;
+    QStringList columns;
+    PickCommand choose;
+    PickCommand remove;
+    PickCommand chooseAll;
+    PickCommand removeAll;
+    bool copies = false;  ///< choosing leaves the row where it was, and removing drops it
+};
+
+/// Two lists with the same columns, what can be chosen and what is chosen, and the commands that move or copy
+/// rows between them. Several rows can be selected; a double click or Enter takes a row as well. The order of
+/// what is chosen is the order in which it was chosen.
 class PickLists : public QWidget {
     Q_OBJECT
 
   public:
-    struct Captions {
-        QString move;
-        QString remove;
-        QString moveAll;
-        QString removeAll;
-    };
-
-    PickLists(const QStringList& columns, const Captions& captions, QWidget* screen);
+    PickLists(const PickSetup& setup, QWidget* screen);
 
     ReportList& Offered() { return *offered_; }
     ReportList& Chosen() { return *chosen_; }
 
   private:
-    void MoveSelected(ReportList& from, ReportList& to, const QString& complaint);
-    static void MoveRow(ReportList& from, ReportList& to, int row);
-    static void MoveAll(ReportList& from, ReportList& to);
+    void Take(bool chooses, const std::vector<int>& rows, const QString& complaint);
 
+    const bool copies_;
     ReportList* offered_;
     ReportList* chosen_;
 };

@@ -5,7 +5,7 @@
 namespace kalvane {
 namespace {
 
-constexpr int kBorder = 1;
+constexpr int kBorder = PictureBox::kBorderTwips / kTwipsPerPixel;
 constexpr double kUnitsPerTwip = 1.0 / kTwipsPerPixel;
 
 /// A box of the frame's shape.

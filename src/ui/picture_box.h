@@ -19,6 +19,9 @@ class PictureBox : public QWidget {
     /// `inner` is the box to paint into, in twips: (0, 0, inner width, inner height).
     using Layer = std::function<void(PainterTarget& target, Box inner)>;
 
+    /// Width of the border on each side, in twips.
+    static constexpr int kBorderTwips = kTwipsPerPixel;
+
     explicit PictureBox(const QString& name, QWidget* parent = nullptr);
 
     /// Replaces the persistent layer and drops the transient one. An empty function clears the box.

@@ -3,6 +3,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
+#include "ui/dialogs.h"
 #include "ui/main_frame.h"
 #include "ui/screen_memory.h"
 
@@ -67,6 +68,11 @@ void Screen::done(int result) {
     QWidget* frame = Frame();
     QDialog::done(result);
     if (frame != this) frame->close();
+}
+
+void Screen::reject() {
+    if (HasTypedWork() && !AskToLose(this, QStringLiteral("输入的内容还没有保存，要放弃吗？"))) return;
+    Leave();
 }
 
 void Screen::showEvent(QShowEvent* event) {

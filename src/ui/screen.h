@@ -17,8 +17,15 @@ class Screen : public QDialog {
     void ShowModeless();
 
     void done(int result) override;
+    /// Esc and the frame's close button: asks once when typed work would be lost.
+    void reject() override;
+    /// What the commands that leave a screen do: closes it without a question.
+    void Leave() { done(Rejected); }
 
   protected:
+    /// True while the screen holds typed work that closing it would lose.
+    virtual bool HasTypedWork() const { return false; }
+
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 

@@ -61,6 +61,7 @@ TEST_F(PlanFlow, FromTheModuleToThePlan) {
                 })
             .On("frmCreate01",
                 [&](QDialog& step) {
+                    Deselect(step, "LVW");
                     Press(step, "CmdNext");
                     EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|无选择的工程")));
                     Find<ReportList>(&step, "LVW")->SelectRow(1);
@@ -68,6 +69,7 @@ TEST_F(PlanFlow, FromTheModuleToThePlan) {
                 })
             .On("frmCreate02",
                 [&](QDialog& step) {
+                    Deselect(step, "LvwR");
                     for (const char* button : {"CmdMove", "CmdRemove", "CmdNext"}) Press(step, button);
                     EXPECT_EQ(dialogs_.TakeShown(), QStringList({QStringLiteral("提示|无选择移动对象"),
                                                                  QStringLiteral("提示|无选择移除对象"),
@@ -140,9 +142,14 @@ TEST_F(PlanFlow, FromAnOpenProjectToTheOutputs) {
     EXPECT_NE(written.find("工程名称：阳光花园"), std::string::npos);
     EXPECT_EQ(ReadFile(folder_ / "plan.xlsx").substr(0, 4), "PK\x03\x04");  // a zip, as .xlsx is
     for (const char* pdf : {"cuts.pdf", "totals.pdf"}) EXPECT_GT(ReadFile(folder_ / pdf).size(), 5000U);
-    // No desktop here to open it with: the operator is told, and the file stays.
+    // No desktop here to open it with: the operator hears of that and of where the file is.
+    const QString saved = QStringLiteral("提示|已保存到：");
     EXPECT_EQ(dialogs_.shown,
-              QStringList(QStringLiteral("提示|确认您的系统中是否安装了Excel软件或版本不兼容！")));
+              QStringList({saved + InFolder("plan.txt"),
+                           QStringLiteral("提示|确认您的系统中是否安装了Excel软件或版本不兼容！"),
+                           saved + InFolder("plan.xlsx")}));
+    EXPECT_EQ(dialogs_.names.mid(1, 2).join(QLatin1Char(' ')),
+              QStringLiteral("阳光花园-材料优化 阳光花园-材料优化"));
     delete opened;
 }
 

@@ -56,6 +56,8 @@ TEST_F(ProjectFlow, ProjectsAreEnteredChangedAndDeleted) {
     list.show();
     auto* lvw = Find<ReportList>(&list, "Lvw");
     EXPECT_EQ(lvw->Text(0, 0), QStringLiteral("A")) << "sorted by name, not in the order of the store";
+    EXPECT_EQ(lvw->SelectedRow(), 0) << "Enter opens the first";
+    Deselect(list, "Lvw");
     for (const char* button : {"CmdEdit", "CmdDel", "CmdOpen"}) Press(list, button);
     EXPECT_EQ(dialogs_.TakeShown(), QStringList({QStringLiteral("提示|无选取所需编辑的对象！"),
                                                  QStringLiteral("提示|无选取所需删除的对象！"),
@@ -63,21 +65,27 @@ TEST_F(ProjectFlow, ProjectsAreEnteredChangedAndDeleted) {
 
     ModalScript()
         .On("frmInputGC",
-            [](QDialog& input) {
+            [&](QDialog& input) {
                 TypeThrough(input, "B',东街,");
                 Press(input, "OKButton");
                 EXPECT_EQ(input.focusWidget()->objectName(), QStringLiteral("Text1(2)"));
-                TypeThrough(input, "乙公司,HT-5");
-            })
-        .On("frmInputGC",
-            [](QDialog& again) {  // the store refused the quote; what was typed comes again
-                EXPECT_EQ(TextIn(again, "Text1(3)"), QStringLiteral("HT-5"));
-                SetText(again, "Text1(0)", "B");
-                Press(again, "OKButton");
+                TypeThrough(input, "乙公司,HT-5");  // the store refuses the quote
+                EXPECT_EQ(input.focusWidget()->objectName(), QStringLiteral("Text1(0)"));
+                SetText(input, "Text1(3)", "HT-5678901234567890");  // 19 characters into 18
+                SetText(input, "Text1(0)", "B");
+                Press(input, "OKButton");
+                EXPECT_EQ(input.focusWidget()->objectName(), QStringLiteral("Text1(3)"));
+                dialogs_.answers = {false};
+                input.reject();
+                EXPECT_TRUE(input.isVisible()) << "what was typed stays";
+                SetText(input, "Text1(3)", "HT-5");
+                Press(input, "OKButton");
             })
         .Run([&] { Press(list, "CmdAdd"); });
-    EXPECT_EQ(dialogs_.shown.size(), 2);
-    EXPECT_EQ(dialogs_.TakeShown().value(0), QStringLiteral("提示|数据不能为空！"));
+    const QStringList shown = dialogs_.TakeShown();
+    ASSERT_EQ(shown.size(), 4);
+    EXPECT_EQ(shown[0], QStringLiteral("提示|数据不能为空！"));
+    EXPECT_EQ(shown[3], QStringLiteral("提示|输入的内容还没有保存，要放弃吗？"));
     EXPECT_EQ(Rows("Select * from 工程 where 编号=5"), "5|HT-5|B|东街|乙公司");
 
     ModalScript()
@@ -99,6 +107,7 @@ TEST_F(ProjectFlow, ProjectsAreEnteredChangedAndDeleted) {
         EXPECT_EQ(lvw->RowCount(), left);
     }
     const QString question = QStringLiteral("提示|确认要删除工程：B吗？");
+    EXPECT_EQ(dialogs_.usualAnswers.back(), Dialogs::Answer::No) << "Enter deletes nothing";
     EXPECT_EQ(dialogs_.TakeShown(), QStringList({question, question}));
     EXPECT_EQ(Rows("Select 编号 from 工程"), "1\n4");
     EXPECT_EQ(frmOpenGC::OfProject("5"), nullptr) << "its windows are gone with it";

@@ -93,41 +93,62 @@ class MainScreenTest : public ScreenTest {
   protected:
     static void Trigger(MDIMain& frame, const char* name) { Find<QAction>(&frame, name)->trigger(); }
 
-    /// Names of the menu entries and buttons that can be used, in the order of the screen.
-    static QString Enabled(MDIMain& frame) {
-        QStringList names;
-        QList<QAction*> actions;
-        for (QMenu* menu : frame.findChildren<QMenu*>()) {
-            if (menu->menuAction()->isEnabled()) actions << menu->actions();
+    /// Whether an entry can be reached: itself, and the menu it stands in.
+    static bool IsEnabled(MDIMain& frame, const char* name) {
+        const QAction* entry = Find<QAction>(&frame, name);
+        for (const QMenu* menu : frame.findChildren<QMenu*>()) {
+            if (menu->actions().contains(entry) && !menu->menuAction()->isEnabled()) return false;
         }
-        actions << Find<QToolBar>(&frame, "Toolbar1")->actions();
-        for (const QAction* action : actions) {
-            if (action->isEnabled() && !action->isSeparator()) names << action->objectName();
-        }
-        return names.join(QLatin1Char(' '));
+        return entry->isEnabled();
     }
 };
 
+/// Each entry of the menus and the toolbar that opens something, by the place of its right; 0 for none.
+constexpr struct {
+    const char* name;
+    std::size_t right;
+} kEntries[] = {
+    {"mnuDrawPicture", 2},
+    {"x2", 2},
+    {"mnuProject", 4},
+    {"x4", 4},
+    {"mnuYouhua", 5},
+    {"x5", 5},
+    {"mnuDatabaseManage", 7},
+    {"x6", 7},
+    {"mnuPath", 8},
+    {"mnuChangeBackgroup", 9},
+    {"mnuUserMng", 10},
+    {"mnuMdifyPwd", 11},
+    {"mnuClearCK", 12},
+    {"mnuExit", 0},
+    {"mnuAbout", 0},
+    {"mnuHelps", 0},
+    {"x7", 0},
+    {"x8", 0},
+};
+
 TEST_F(MainScreenTest, RightsEnableEntries) {
-    const char* const cases[][2] = {
-        {"111111111111",
-         "mnuDrawPicture mnuProject mnuYouhua mnuExit mnuDatabaseManage mnuPath mnuChangeBackgroup "
-         "mnuUserMng mnuMdifyPwd mnuClearCK mnuAbout mnuHelps x2 x4 x5 x6 x7 x8"},
-        {"010000100000", "mnuDrawPicture mnuExit mnuDatabaseManage mnuAbout mnuHelps x2 x6 x7 x8"},
-        {"000000010110", "mnuExit mnuPath mnuUserMng mnuMdifyPwd mnuAbout mnuHelps x7 x8"},
-        {"000100000000", "mnuProject mnuExit mnuAbout mnuHelps x4 x7 x8"},
-        {"000010000000", "mnuYouhua mnuExit mnuAbout mnuHelps x5 x7 x8"},
-        {"000000001000", "mnuExit mnuChangeBackgroup mnuAbout mnuHelps x7 x8"},
-        {"11111111111", "mnuExit mnuAbout mnuHelps x7 x8"},
-        {"中x yes11111 1", "mnuExit mnuAbout mnuHelps x7 x8"},  // thirteen characters
-        // Only "1" grants; 中 is one character.
-        {"中x yes000001", "mnuExit mnuClearCK mnuAbout mnuHelps x7 x8"},
-    };
-    for (const auto& [userAuth, enabled] : cases) {
-        App().userAuth = userAuth;
-        MDIMain frame;
-        frame.Load();
-        EXPECT_EQ(Enabled(frame), QLatin1String(enabled)) << userAuth;
+    constexpr std::size_t kRights = 12;
+    std::vector<std::string> rightsOfUsers = {std::string(kRights, '1'), std::string(kRights, '0'),
+                                              std::string(kRights - 1, '1'), std::string(kRights + 1, '1')};
+    for (std::size_t right = 1; right <= kRights; ++right) {
+        rightsOfUsers.emplace_back(kRights, 'y')[right - 1] = '1';  // only "1" grants
+    }
+    for (const std::string& rights : rightsOfUsers) {
+        // 中 is one character: it takes the place of the last right or stands behind it.
+        for (const bool isChinese : {false, true}) {
+            App().userAuth = isChinese ? rights.substr(0, rights.size() - 1) + "中" : rights;
+            MDIMain frame;
+            frame.Load();
+            for (const auto& entry : kEntries) {
+                const bool isGranted = rights.size() == kRights && entry.right > 0 &&
+                                       rights[entry.right - 1] == '1' &&
+                                       !(isChinese && entry.right == kRights);
+                EXPECT_EQ(IsEnabled(frame, entry.name), entry.right == 0 || isGranted)
+                    << entry.name << " for " << App().userAuth;
+            }
+        }
     }
 }
 

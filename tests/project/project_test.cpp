@@ -82,8 +82,8 @@ TEST_F(ProjectTest, WindowTypesFormATree) {
             "门窗 (系列编号,编号,名称,图号) values(3,11,'b',40)",
             "门窗 (系列编号,编号,名称,图号) values(3,12,'a',41)"});
     std::string found;
-    const std::function<void(const std::vector<TypeNode>&)> walk = [&](const std::vector<TypeNode>& nodes) {
-        for (const TypeNode& node : nodes) {
+    const std::function<void(const std::vector<TreeNode>&)> walk = [&](const std::vector<TreeNode>& nodes) {
+        for (const TreeNode& node : nodes) {
             found += node.name + "=" + node.tag + "(";
             walk(node.children);
             found += ")";

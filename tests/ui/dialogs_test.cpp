@@ -49,8 +49,8 @@ TEST_F(DialogsTest, QuestionsAreAskedInChineseAndTextsShownPlainly) {
     for (const auto& c : cases) {
         ModalScript().On("", Press(c.press, QString::fromUtf8(c.caption))).Run([&] {
             const QString text = QStringLiteral("<b>真的吗？");
-            EXPECT_EQ(c.yesNo ? UseDialogs().AskYesNo(nullptr, text, QStringLiteral("提示"))
-                              : UseDialogs().AskOkCancel(nullptr, text, QStringLiteral("提示")),
+            EXPECT_EQ(c.yesNo ? Ask(nullptr, text)
+                              : UseDialogs().AskOkCancel(nullptr, text, PromptTitle(), Dialogs::Answer::No),
                       c.answer)
                 << c.caption;
         });
@@ -71,8 +71,8 @@ TEST_F(DialogsTest, SavingAsksBeforeItOverwrites) {
     WriteFileAtomically(folder_ / "plans/old.DDD", "old");
     const QString filter = QStringLiteral("需求文件|*.DDD");
     const auto save = [&](bool asks) {
-        return UseDialogs().SaveFileName(nullptr, QStringLiteral("plan"), filter, QStringLiteral("DDD"),
-                                         asks);
+        return UseDialogs().SaveFileName(
+            nullptr, {QStringLiteral("plan"), filter, QStringLiteral("DDD"), QStringLiteral("甲/乙"), asks});
     };
     ModalScript()
         .On("QFileDialog", Choose(InFolder("plans/old")))

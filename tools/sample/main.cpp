@@ -7,10 +7,10 @@
 #include "app/screens/MDIMain.h"
 #include "app/screens/frmLogin.h"
 #include "app/store_setup.h"
+#include "design/window_type_tree.h"
 #include "drawing/mcpicture.h"
 #include "drawing/screens/window_picture.h"
 #include "numeric/error.h"
-#include "numeric/number.h"
 #include "optimise/plan.h"
 #include "optimise/plan_file.h"
 #include "optimise/run.h"
@@ -19,7 +19,6 @@
 #include "project/project_windows.h"
 #include "session/app_state.h"
 #include "session/shared_slots.h"
-#include "store/helpers.h"
 #include "ui/application.h"
 #include "ui/dialogs.h"
 #include "ui/message_notice.h"
@@ -88,8 +87,8 @@ QString pdfFile;
 class NoDialogs : public Dialogs {
   public:
     void Message(QWidget*, const QString& text, const QString&, NoticeIcon) override { Stop(text); }
-    bool AskYesNo(QWidget*, const QString& text, const QString&) override { return Stop(text); }
-    bool AskOkCancel(QWidget*, const QString& text, const QString&) override { return Stop(text); }
+    bool AskYesNo(QWidget*, const QString& text, const QString&, Answer) override { return Stop(text); }
+    bool AskOkCancel(QWidget*, const QString& text, const QString&, Answer) override { return Stop(text); }
     std::optional<QString> InputText(QWidget*, const QString&, const QString& prompt,
                                      const QString&) override {
         Stop(prompt);
@@ -99,8 +98,8 @@ class NoDialogs : public Dialogs {
         Stop(purpose);
         return {};
     }
-    QString SaveFileName(QWidget*, const QString& purpose, const QString&, const QString&, bool) override {
-        if (pdfFile.isEmpty()) Stop(purpose);
+    QString SaveFileName(QWidget*, const SaveRequest& request) override {
+        if (pdfFile.isEmpty()) Stop(request.purpose);
         return std::exchange(pdfFile, {});
     }
 
@@ -254,13 +253,10 @@ void SavePlan(const std::string& name) {
 void SaveWindowPictures() {
     MessageNotice notice(nullptr);
     for (const WindowEntry& window : ListWindows(App().Main(), App().currentProjectId)) {
-        LoadRowById(App().Main(), "门窗", window.typeNumber, SharedFieldSlots());
         MCPicture picture(notice);
-        picture.OpenFileEX(App().Main(), SharedFieldSlots()[4]);
-        std::vector<WindowLabel> labels;
-        for (const LabelRow& label : LoadLabels(App().Main(), window.number)) {
-            labels.push_back({Val(label.x), Val(label.y), label.value});
-        }
+        picture.OpenFileEX(App().Main(),
+                           DrawingOfWindowType(App().Main(), window.typeNumber, SharedFieldSlots()));
+        const std::vector<WindowLabel> labels = PaintedLabels(LoadLabels(App().Main(), window.number));
         const std::string file = "window-" + window.number + "-" + window.name + ".png";
         WindowPictureImage(picture, labels, QSize(950, 794)).save(ToQt((out / file).string()));
     }

@@ -7,11 +7,11 @@
 #include "app/rights.h"
 
 class QAction;
-class QMenu;
 
 namespace kalvane {
 
 class PictureArea;
+struct MainEntry;
 
 /// The frame of the program: menus, toolbar, child screens. Closing it ends the program.
 class MDIMain : public QMainWindow {
@@ -23,28 +23,20 @@ class MDIMain : public QMainWindow {
     /// Reads the settings, opens the stores and applies the rights of the login. Call once, before show().
     void Load();
 
+    /// Shows the picture of a file behind the child screens. Throws FileError when it cannot be read.
+    void ShowBackground(const QString& file);
+    void CloseChildOrProgram();
+
   protected:
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    struct Entry;
-    struct EntryMenu;
-    static const std::vector<EntryMenu>& Menus();
-    static const Entry& EntryNamed(const QString& name);
-
     void MakeMenus();
     void MakeToolbar();
     void MakeStatusBar();
-    QAction* MakeAction(const QString& name, const Entry& entry);
+    QAction* MakeAction(const QString& name, const MainEntry& entry);
     void Guard(QAction* action, Right right);
     void ApplyRights();
-
-    void ChangeBackground();
-    void ClearWarehouse();
-    void CloseChildOrProgram();
-    void ShowDrawingDesk();
-    void ShowHelp();
-    void ShowAbout();
 
     PictureArea* area_;
     std::vector<std::pair<QAction*, Right>> guarded_;  ///< disabled until ApplyRights grants them

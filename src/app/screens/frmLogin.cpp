@@ -23,7 +23,6 @@ namespace {
 constexpr int kTriesAllowed = 3;
 constexpr int kPictureSize = 64;
 constexpr int kFieldWidth = 220;
-const QString kTitle = QStringLiteral("提示");
 }  // namespace
 
 frmLogin::frmLogin(QWidget* parent)
@@ -57,7 +56,7 @@ frmLogin::frmLogin(QWidget* parent)
     rows->setSizeConstraint(QLayout::SetFixedSize);
 
     OnSignal(cmdOK, &QPushButton::clicked, this, [this] { LogIn(); });
-    OnSignal(cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(cmdCancel, &QPushButton::clicked, this, [this] { Leave(); });
     App().loginOK = false;
     Guarded(this, [this] { Load(); });
 }
@@ -77,12 +76,12 @@ void frmLogin::Load() {
 
 void frmLogin::LogIn() {
     if (cboUsrNm_->currentText().isEmpty()) {
-        UseDialogs().Message(this, QStringLiteral("请选择要登陆的用户"), kTitle, NoticeIcon::Information);
+        Tell(this, QStringLiteral("请选择要登陆的用户"));
         cboUsrNm_->setFocus();
         return;
     }
     if (txtPassword_->text().isEmpty()) {
-        UseDialogs().Message(this, QStringLiteral("密码不能为空！请输入"), kTitle, NoticeIcon::Information);
+        Tell(this, QStringLiteral("密码不能为空！请输入"));
         txtPassword_->setFocus();
         return;
     }
@@ -94,12 +93,12 @@ void frmLogin::LogIn() {
 }
 
 void frmLogin::RefuseTry() {
-    UseDialogs().Message(this, QStringLiteral("输入的密码不正确！"), kTitle, NoticeIcon::Information);
+    Tell(this, QStringLiteral("输入的密码不正确！"));
     txtPassword_->clear();
     txtPassword_->setFocus();
     // The message speaks of three; it is the fourth wrong try that ends the login.
     if (++wrongTries_ > kTriesAllowed) {
-        UseDialogs().Message(this, QStringLiteral("你输入已超过三次了！"), kTitle, NoticeIcon::Error);
+        UseDialogs().Message(this, QStringLiteral("你输入已超过三次了！"), PromptTitle(), NoticeIcon::Error);
         reject();
     }
 }

@@ -59,7 +59,7 @@ frmSetting::frmSetting(QWidget* parent)
     LayOutEntry(this, fields, ok, cancel);
 
     OnSignal(ok, &QPushButton::clicked, this, [this] { Store(); });
-    OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
     Load();
 }
 

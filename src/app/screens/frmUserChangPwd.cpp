@@ -47,7 +47,7 @@ frmUserChangPwd::frmUserChangPwd(QWidget* parent)
     LayOutEntry(this, fields, ok, cancel);
 
     OnSignal(ok, &QPushButton::clicked, this, [this] { Change(); });
-    OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
     Guarded(this, [this] {
         MessageNotice notice(this);
         users_ = OpenUserStore(App(), notice);

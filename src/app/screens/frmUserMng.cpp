@@ -23,7 +23,6 @@ namespace {
 constexpr int kRightsInARow = 3;
 constexpr int kListWidth = 180;
 constexpr int kNameLength = 8;  // of the column
-const QString kTitle = QStringLiteral("提示");
 
 }  // namespace
 
@@ -40,6 +39,7 @@ frmUserMng::frmUserMng(QWidget* parent)
         cmdOpr_[i] = MakeButton(qPrintable(QStringLiteral("cmdOpr(%1)").arg(i)), captions[i], this);
     }
     lvw_->setMinimumWidth(kListWidth);
+    lvw_->KeepOrder();  // as the accounts
 
     auto* body = new QWidget(this);
     auto* columns = new QHBoxLayout(body);
@@ -122,24 +122,19 @@ void frmUserMng::StartAdding() {
 }
 
 void frmUserMng::StartEditing() {
-    if (accounts_.empty()) {
-        UseDialogs().Message(this, QStringLiteral("没有可编辑的用户！"), kTitle, NoticeIcon::Information);
-        return;
-    }
+    if (accounts_.empty()) return Tell(this, QStringLiteral("没有可编辑的用户！"));
     if (txtUsrNm_->text().isEmpty()) ShowSelected();
     Enter(Mode::Edit);
 }
 
 void frmUserMng::Delete() {
-    const auto refuse = [this](const QString& text) {
-        UseDialogs().Message(this, text, kTitle, NoticeIcon::Information);
-    };
-    const int row = lvw_->SelectedRow();
-    if (accounts_.empty()) return refuse(QStringLiteral("没有可删除的用户！"));
-    if (row < 0) return refuse(QStringLiteral("请选择要删除的用户！"));
+    if (accounts_.empty()) return Tell(this, QStringLiteral("没有可删除的用户！"));
+    const int row = lvw_->SelectedOrTell(QStringLiteral("请选择要删除的用户！"));
+    if (row < 0) return;
     const std::string name = accounts_[static_cast<std::size_t>(row)].name;
-    if (name == kAdministrator) return refuse(QStringLiteral("系统管理员不能删除！"));
-    if (!UseDialogs().AskOkCancel(this, QStringLiteral("确认要删除该用户吗？") + ToQt(name), kTitle)) return;
+    if (name == kAdministrator) return Tell(this, QStringLiteral("系统管理员不能删除！"));
+    const QString question = QStringLiteral("确认要删除该用户吗？") + ToQt(name);
+    if (!UseDialogs().AskOkCancel(this, question, PromptTitle(), Dialogs::Answer::No)) return;
     DeleteUserAccount(*users_, name);
     accounts_.erase(accounts_.begin() + row);
     lvw_->RemoveRow(row);
@@ -147,12 +142,10 @@ void frmUserMng::Delete() {
 }
 
 void frmUserMng::Save() {
-    const auto refuse = [this](const QString& text, QLineEdit* box) {
-        UseDialogs().Message(this, text, kTitle, NoticeIcon::Information);
-        box->setFocus();
-    };
-    if (txtUsrNm_->text().isEmpty()) return refuse(QStringLiteral("用户名不能为空！"), txtUsrNm_);
-    if (txtUsrPwd_->text().isEmpty()) return refuse(QStringLiteral("用户名密码不能为空！"), txtUsrPwd_);
+    if (txtUsrNm_->text().isEmpty()) return TellAt(this, QStringLiteral("用户名不能为空！"), txtUsrNm_);
+    if (txtUsrPwd_->text().isEmpty()) {
+        return TellAt(this, QStringLiteral("用户名密码不能为空！"), txtUsrPwd_);
+    }
     mode_ == Mode::Add ? SaveNew() : SaveRights();
 }
 

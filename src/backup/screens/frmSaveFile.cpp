@@ -24,7 +24,6 @@ namespace kalvane {
 namespace {
 
 constexpr QSize kFirstSize(560, 520);
-const QString kTitle = QStringLiteral("提示");
 
 /// Where backups go the first time: beside the database.
 QString DatabaseFolder() {
@@ -73,7 +72,7 @@ frmSaveFile::frmSaveFile(QWidget* parent)
     OnSignal(Drive1_, &QComboBox::activated, this,
              [this] { Dir1_->SetFolder(Drive1_->currentData().toString()); });
     OnSignal(ok, &QPushButton::clicked, this, [this] { Save(); });
-    OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
     Dir1_->SetFolder(RememberedFolder(Purpose(), DatabaseFolder()));
     TxtFileName_->setFocus();
 }
@@ -105,13 +104,13 @@ void frmSaveFile::ShowDriveOf(const QString& folder) {
 
 void frmSaveFile::Save() {
     if (TxtFileName_->text().isEmpty()) {
-        UseDialogs().Message(this, QStringLiteral("文件名不能为空！"), kTitle, NoticeIcon::Information);
+        Tell(this, QStringLiteral("文件名不能为空！"));
         TxtFileName_->setFocus();
         return;
     }
     const QString folder = Dir1_->Folder();
     if (folder.isEmpty()) {
-        UseDialogs().Message(this, QStringLiteral("路径不能为空！"), kTitle, NoticeIcon::Information);
+        Tell(this, QStringLiteral("路径不能为空！"));
         Dir1_->setFocus();
         return;
     }
@@ -120,7 +119,7 @@ void frmSaveFile::Save() {
                         BackupPath(FromQt(folder), FromQt(TxtFileName_->text())), progress);
     });
     RememberFolder(Purpose(), folder);
-    UseDialogs().Message(this, QStringLiteral("已备份完毕！"), kTitle, NoticeIcon::Information);
+    Tell(this, QStringLiteral("已备份完毕！"));
     accept();
 }
 

@@ -45,7 +45,7 @@ frmTools::frmTools(QWidget* parent)
 
     OnSignal(backup, &QPushButton::clicked, this, [this] { Backup(); });
     OnSignal(restore, &QPushButton::clicked, this, [this] { Restore(); });
-    OnSignal(exit, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(exit, &QPushButton::clicked, this, [this] { Leave(); });
 }
 
 void frmTools::Backup() {

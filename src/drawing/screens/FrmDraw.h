@@ -2,6 +2,7 @@
 
 #include "drawing/desk_screen.h"
 #include "drawing/drawing_desk.h"
+#include "drawing/screens/desk_files.h"
 #include "drawing/status_bar.h"
 #include "drawing/text_form.h"
 #include "ui/message_notice.h"
@@ -33,7 +34,6 @@ class FrmDraw final : public Screen, private DeskScreen, private StatusBar, priv
     void dropEvent(QDropEvent* event) override;
 
   private:
-    void MakeButtons();
     void MakeStatusBar();
     void LayOut();
     void Connect();
@@ -41,14 +41,6 @@ class FrmDraw final : public Screen, private DeskScreen, private StatusBar, priv
     /// Runs what the operator asked for, guarded, and shows what became of the desk.
     void Do(const std::function<void()>& work);
     void ShowState();
-
-    void ChooseFile();
-    void ChooseFileToSave();
-    void ChooseDxf();
-    /// A drawing file that cannot be read is told in the status bar only.
-    void OpenFile(const QString& file);
-    void SaveFile(const QString& file);
-    void ImportDxfFile(const QString& file);
 
     void SetTitle(const std::string& title) override;
     void ChooseDrawing() override;
@@ -67,9 +59,8 @@ class FrmDraw final : public Screen, private DeskScreen, private StatusBar, priv
     QLabel* prompt_;
     QLabel* coordinates_;
     QPushButton* recover_;
-    QPushButton* undo_ = nullptr;
-    QPushButton* redo_ = nullptr;
     DrawingDesk desk_;
+    DeskFiles files_;
     bool gridShown_ = false;
 };
 

@@ -13,30 +13,41 @@ class QVBoxLayout;
 namespace kalvane {
 
 /// The column of buttons beside the canvas. None takes the focus, so that letters go on to the command line.
+/// The button of a tool stays down while its tool is at work.
 class DeskButtons final : public QWidget {
     Q_OBJECT
 
   public:
     explicit DeskButtons(QWidget* parent);
 
-    QPushButton* AddButton(const char* name, const QString& caption, const QString& icon,
-                           const QString& toolTip);
-    void AddGap();
-    /// Room between the buttons above and those below.
-    void AddStretch();
-    /// A button that gives a command; one that arms a tool stays down while its tool is at work.
-    void AddCommand(DeskCommand command, const char* name, const QString& caption, const QString& icon,
-                    const QString& toolTip);
-
     /// Shows the button of a tool (drawing_tool.h) down, all others up.
     void ShowArmed(std::string_view tool);
+    void ShowHistory(bool canUndo, bool canRedo);
 
   Q_SIGNALS:
     void Chosen(DeskCommand command);
+    void UndoAsked();
+    void RedoAsked();
+    void OpenAsked();
+    void SaveAsked();
+    void DxfAsked();
 
   private:
+    using Signal = void (DeskButtons::*)();
+
+    void AddTools();
+    void AddEdits();
+    void AddFiles();
+    void AddCommand(DeskCommand command, const char* name, const QString& caption, const char* icon,
+                    const QString& toolTip);
+    QPushButton* AddButton(Signal signal, const char* name, const QString& caption, const char* icon,
+                           const QString& toolTip);
+    QPushButton* Add(const char* name, const QString& caption, const char* icon, const QString& toolTip);
+
     QVBoxLayout* column_;
     std::vector<std::pair<std::string_view, QPushButton*>> tools_;
+    QPushButton* undo_ = nullptr;
+    QPushButton* redo_ = nullptr;
 };
 
 }  // namespace kalvane

@@ -25,7 +25,7 @@ frmInput::frmInput(QWidget* parent)
     LayOutEntry(this, fields, ok, cancel);
 
     OnSignal(ok, &QPushButton::clicked, this, [this] { Confirm(); });
-    OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
 }
 
 void frmInput::Confirm() {

@@ -4,16 +4,14 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <memory>
 
-#include "drawing/cpictire.h"
 #include "drawing/drawing_library.h"
+#include "drawing/screens/drawing_box.h"
 #include "session/app_state.h"
 #include "session/shared_slots.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
-#include "ui/picture_box.h"
 #include "ui/report_list.h"
 #include "ui/text.h"
 #include "ui/text_box.h"
@@ -24,15 +22,13 @@ constexpr QSize kFirstSize(900, 520);
 constexpr int kListWidth = 340;
 constexpr int kNameColumn = 0;
 constexpr int kNumberColumn = 1;
-const QString kTitle = QStringLiteral("提示");
 }  // namespace
 
 frmOpenPicture::frmOpenPicture(QWidget* parent)
     : Screen(QStringLiteral("frmOpenPicture"), QStringLiteral("打开门窗图"), parent),
       lvw_(new ReportList(QStringLiteral("lvw"), {QStringLiteral("图名"), QStringLiteral("编号")}, this)),
       txtCBN_(MakeBox(QStringLiteral("txtCBN"), this)),
-      picture_(new PictureBox(QStringLiteral("PicMC"), this)),
-      notice_(this) {
+      picture_(new DrawingBox(QStringLiteral("PicMC"), this)) {
     txtCBN_->setReadOnly(true);
     lvw_->setMinimumWidth(kListWidth);
     QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定"), this, QStringLiteral("Enter 或双击"));
@@ -60,36 +56,29 @@ frmOpenPicture::frmOpenPicture(QWidget* parent)
     OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Confirm(); });
     OnSignal(ok, &QPushButton::clicked, this, [this] { Confirm(); });
     OnSignal(del, &QPushButton::clicked, this, [this] { Delete(); });
-    OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
     Guarded(this, [this] { Load(); });
 }
 
 void frmOpenPicture::Load() {
+    QList<QStringList> rows;
     for (const DrawingEntry& drawing : ListDrawings(App().Main())) {
-        lvw_->AddRow({ToQt(drawing.name), ToQt(drawing.number)});
+        rows << QStringList{ToQt(drawing.name), ToQt(drawing.number)};
     }
+    lvw_->AddRows(rows);
 }
 
 void frmOpenPicture::ShowSelected() {
     const int row = lvw_->SelectedRow();
     txtCBN_->setText(row < 0 ? QString() : lvw_->Text(row, kNumberColumn));
-    picture_->SetPersistent({});
+    picture_->Clear();
     if (row < 0) return;
-    auto drawing = std::make_shared<CPictire>(notice_);
-    drawing->OpenFileEX(App().Main(), FromQt(txtCBN_->text()));
-    picture_->SetPersistent(
-        [drawing](PainterTarget& target, Box inner) { drawing->PrintPic(target, kFrame, inner); });
-}
-
-bool frmOpenPicture::HasSelection() {
-    if (lvw_->SelectedRow() >= 0) return true;
-    UseDialogs().Message(this, QStringLiteral("无选取图形！"), kTitle, NoticeIcon::Information);
-    return false;
+    picture_->ShowFromLibrary(App().Main(), FromQt(txtCBN_->text()), DrawingBox::Names::Shown);
 }
 
 void frmOpenPicture::Confirm() {
-    if (!HasSelection()) return;
-    const int row = lvw_->SelectedRow();
+    const int row = lvw_->SelectedOrTell(QStringLiteral("无选取图形！"));
+    if (row < 0) return;
     FieldSlots& slots = SharedFieldSlots();
     slots[0] = FromQt(lvw_->Text(row, kNumberColumn));
     slots[1] = FromQt(lvw_->Text(row, kNameColumn));
@@ -97,10 +86,9 @@ void frmOpenPicture::Confirm() {
 }
 
 void frmOpenPicture::Delete() {
-    if (!HasSelection()) return;
-    const int row = lvw_->SelectedRow();
-    const QString question = QStringLiteral("确定要删除吗？(%1)").arg(lvw_->Text(row, kNameColumn));
-    if (!UseDialogs().AskYesNo(this, question, kTitle)) return;
+    const int row = lvw_->SelectedOrTell(QStringLiteral("无选取图形！"));
+    if (row < 0) return;
+    if (!AskToLose(this, QStringLiteral("确定要删除吗？(%1)").arg(lvw_->Text(row, kNameColumn)))) return;
     DeleteDrawing(App().Main(), FromQt(lvw_->Text(row, kNumberColumn)));
     lvw_->RemoveRow(row);
 }

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "ui/message_notice.h"
 #include "ui/screen.h"
 
 class QLineEdit;
 
 namespace kalvane {
 
-class PictureBox;
+class DrawingBox;
 class ReportList;
 
 /// The drawings of the library with a preview. A choice comes back in the shared slots: the number in slot 0,
@@ -24,12 +23,10 @@ class frmOpenPicture final : public Screen {
     void ShowSelected();
     void Confirm();
     void Delete();
-    bool HasSelection();
 
     ReportList* lvw_;
     QLineEdit* txtCBN_;
-    PictureBox* picture_;
-    MessageNotice notice_;
+    DrawingBox* picture_;
 };
 
 }  // namespace kalvane

@@ -18,7 +18,6 @@ namespace {
 constexpr int kBoxWidth = 280;
 constexpr int kLongestName = 50;
 constexpr int kSelected = 10;
-const QString kTitle = QStringLiteral("提示");
 }  // namespace
 
 frmSavePicEX::frmSavePicEX(QWidget* parent)
@@ -43,7 +42,7 @@ frmSavePicEX::frmSavePicEX(QWidget* parent)
     OnEnter(name_, [this] { Confirm(); });
     OnEnter(number_, [this] { Confirm(); });
     OnSignal(ok, &QPushButton::clicked, this, [this] { Confirm(); });
-    OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
     Guarded(this, [this] { number_->setText(ToQt(NextDrawingNumber(App().Main()))); });
 }
 
@@ -51,15 +50,14 @@ void frmSavePicEX::Confirm() {
     const QString number = number_->text().trimmed();
     number_->setText(number);
     if (DrawingExists(App().Main(), FromQt(number))) {
-        UseDialogs().Message(this, QStringLiteral("该编号已存在，请重新输入新的编号。"), kTitle,
-                             NoticeIcon::Information);
+        Tell(this, QStringLiteral("该编号已存在，请重新输入新的编号。"));
         number_->setFocus();
         number_->setSelection(0, kSelected);
         return;
     }
     const QString name = name_->text().trimmed();
     if (name.isEmpty()) {
-        UseDialogs().Message(this, QStringLiteral("图形名称不能为空！"), kTitle, NoticeIcon::Information);
+        Tell(this, QStringLiteral("图形名称不能为空！"));
         name_->setFocus();
         return;
     }

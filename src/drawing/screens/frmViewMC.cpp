@@ -9,12 +9,12 @@
 #include <QStandardPaths>
 #include <QStorageInfo>
 
+#include "drawing/screens/drawing_box.h"
 #include "platform/settings_store.h"
 #include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
-#include "ui/picture_box.h"
 #include "ui/text.h"
 
 namespace kalvane {
@@ -22,7 +22,6 @@ namespace {
 
 constexpr QSize kFirstSize(900, 540);
 constexpr int kFilesWidth = 240;
-const QString kTitle = QStringLiteral("提示");
 const QString kParent = QStringLiteral("..");
 
 bool IsDrawing(const QString& file) {
@@ -47,7 +46,7 @@ frmViewMC::frmViewMC(QWidget* parent)
       folderLabel_(new QLabel),
       folders_(new QListWidget),
       files_(new QListWidget),
-      picture_(new PictureBox(QStringLiteral("PicMC"))) {
+      picture_(new DrawingBox(QStringLiteral("PicMC"))) {
     drive_->setObjectName(QStringLiteral("Drive1"));
     folders_->setObjectName(QStringLiteral("Dir1"));
     files_->setObjectName(QStringLiteral("File1"));
@@ -82,7 +81,7 @@ frmViewMC::frmViewMC(QWidget* parent)
     OnEnter(folders_, [this] { EnterSelectedFolder(); });
     OnEnter(files_, [this] { Confirm(); });
     OnSignal(ok, &QPushButton::clicked, this, [this] { Confirm(); });
-    OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
     EnterFolder(FirstFolder());
     files_->setFocus();
 }
@@ -115,7 +114,7 @@ void frmViewMC::EnterFolder(const QString& folder) {
     folders_->addItems(dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase));
     files_->clear();
     files_->addItems(dir.entryList(QDir::Files, QDir::Name | QDir::IgnoreCase));
-    picture_->SetPersistent({});
+    picture_->Clear();
 }
 
 void frmViewMC::EnterSelectedFolder() {
@@ -136,24 +135,15 @@ QString frmViewMC::PathOf(const QString& file) const {
 }
 
 void frmViewMC::ShowPicture() {
-    picture_->SetPersistent({});  // a file that cannot be read leaves no other picture behind
+    picture_->Clear();
     const QString file = SelectedFile();
-    if (!IsDrawing(file)) return;
-    MCPicture drawing(notice_);
-    drawing.OpenFileMC(FromQt(PathOf(file)));
-    picture_->SetPersistent([drawing](PainterTarget& target, Box inner) { drawing.OutMC(target, inner); });
+    if (IsDrawing(file)) picture_->ShowFile(FromQt(PathOf(file)));
 }
 
 void frmViewMC::Confirm() {
     const QString file = SelectedFile();
-    if (file.isEmpty()) {
-        UseDialogs().Message(this, QStringLiteral("无选取图形文件"), kTitle, NoticeIcon::Information);
-        return;
-    }
-    if (!IsDrawing(file)) {
-        UseDialogs().Message(this, QStringLiteral("无效的图型文件"), kTitle, NoticeIcon::Information);
-        return;
-    }
+    if (file.isEmpty()) return Tell(this, QStringLiteral("无选取图形文件"));
+    if (!IsDrawing(file)) return Tell(this, QStringLiteral("无效的图型文件"));
     resultPath_ = PathOf(file);
     accept();
 }

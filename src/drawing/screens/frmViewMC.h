@@ -1,8 +1,6 @@
 #pragma once
 
-#include "drawing/mcpicture.h"
 #include "ui/entry_screen.h"
-#include "ui/message_notice.h"
 
 class QComboBox;
 class QLabel;
@@ -10,7 +8,7 @@ class QListWidget;
 
 namespace kalvane {
 
-class PictureBox;
+class DrawingBox;
 
 /// Chooses a drawing file, with a picture of the file under the cursor. Starts at the folder of the setting
 /// PICTUREPATH, or at the user's documents when there is no such folder.
@@ -34,14 +32,13 @@ class frmViewMC : public EntryScreen {
     QString SelectedFile() const;
     QString PathOf(const QString& file) const;
 
-    MessageNotice notice_{this};
     QString folder_;
     QString resultPath_;
     QComboBox* drive_;
     QLabel* folderLabel_;
     QListWidget* folders_;
     QListWidget* files_;
-    PictureBox* picture_;
+    DrawingBox* picture_;
 };
 
 }  // namespace kalvane

@@ -6,16 +6,10 @@
 #include <string_view>
 
 #include "drawing/mcpicture.h"
+#include "drawing/window_label.h"
 #include "ui/painter_target.h"
 
 namespace kalvane {
-
-/// The value of a label of a project window, at the label's position in drawing units.
-struct WindowLabel {
-    double px = 0;
-    double py = 0;
-    std::string value;
-};
 
 // The picture of a project window: its drawing without the names of the labels, with their values in their
 // place.

@@ -6,7 +6,6 @@
 #include "project/project_list.h"
 #include "session/app_state.h"
 #include "ui/command_buttons.h"
-#include "ui/dialogs.h"
 #include "ui/guard.h"
 #include "ui/report_list.h"
 #include "ui/text.h"
@@ -32,24 +31,22 @@ frmCreate01::frmCreate01(QWidget* parent)
 
     OnSignal(next, &QPushButton::clicked, this, [this] { Next(); });
     OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Next(); });
-    OnSignal(exit, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(exit, &QPushButton::clicked, this, [this] { Leave(); });
     Guarded(this, [this] { Load(); });
 }
 
 void frmCreate01::Load() {
+    QList<QStringList> rows;
     for (const Project& project : ListProjects(App().Main())) {
-        lvw_->AddRow({ToQt(project.name), ToQt(project.place), ToQt(project.client), ToQt(project.number),
-                      ToQt(project.contractNumber)});
+        rows << QStringList{ToQt(project.name), ToQt(project.place), ToQt(project.client),
+                            ToQt(project.number), ToQt(project.contractNumber)};
     }
+    lvw_->AddRows(rows);
 }
 
 void frmCreate01::Next() {
-    const int row = lvw_->SelectedRow();
-    if (row < 0) {
-        UseDialogs().Message(this, QStringLiteral("无选择的工程"), QStringLiteral("提示"),
-                             NoticeIcon::Information);
-        return;
-    }
+    const int row = lvw_->SelectedOrTell(QStringLiteral("无选择的工程"));
+    if (row < 0) return;
     App().optimiseProjectName = FromQt(lvw_->Text(row, kNameColumn));
     frmCreate02(FromQt(lvw_->Text(row, kNumberColumn)), this).exec();
 }

@@ -23,9 +23,16 @@ constexpr QSize kFirstSize(680, 460);
 
 frmCreate03::frmCreate03(QWidget* parent)
     : EntryScreen(QStringLiteral("frmCreate03"), QStringLiteral("创建优化之步骤3---->选择材料"), parent),
-      lists_(new PickLists(
-          {QStringLiteral("规格")},
-          {QStringLiteral("->"), QStringLiteral("<-"), QStringLiteral(">>"), QStringLiteral("<<")}, this)),
+      lists_(new PickLists({.offeredName = QStringLiteral("LvwR"),
+                            .chosenName = QStringLiteral("LvwD"),
+                            .offeredHeading = QStringLiteral("可选："),
+                            .chosenHeading = QStringLiteral("已选："),
+                            .columns = {QStringLiteral("规格")},
+                            .choose = {"CmdMove", QStringLiteral("->"), QStringLiteral("无选择移动对象")},
+                            .remove = {"CmdRemove", QStringLiteral("<-"), QStringLiteral("无选择移除对象")},
+                            .chooseAll = {"CmdMoveAll", QStringLiteral(">>")},
+                            .removeAll = {"CmdRemoveAll", QStringLiteral("<<")}},
+                           this)),
       runPanel_(new RunPanel(this)) {
     QPushButton* next = MakeButton("CmdNext", QStringLiteral("&Y 优化"), this);
     next->setDefault(true);
@@ -34,14 +41,14 @@ frmCreate03::frmCreate03(QWidget* parent)
     resize(kFirstSize);
 
     OnSignal(next, &QPushButton::clicked, this, [this] { Next(); });
-    OnSignal(exit, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(exit, &QPushButton::clicked, this, [this] { Leave(); });
     Guarded(this, [this] { Load(); });
 }
 
 void frmCreate03::Load() {
-    for (const std::string& material : ListMaterials(App().Main())) {
-        lists_->Offered().AddRow({ToQt(material)});
-    }
+    QList<QStringList> rows;
+    for (const std::string& material : ListMaterials(App().Main())) rows << QStringList(ToQt(material));
+    lists_->Offered().AddRows(rows);
 }
 
 void frmCreate03::Next() {
@@ -76,7 +83,8 @@ void frmCreate03::Run(const std::vector<std::string>& materials) {
 }
 
 void frmCreate03::done(int result) {
-    if (!runPanel_->RefusesToClose()) EntryScreen::done(result);
+    if (runPanel_->IsRunning()) return runPanel_->CancelRun();  // the screen must not go away under its run
+    EntryScreen::done(result);
 }
 
 }  // namespace kalvane

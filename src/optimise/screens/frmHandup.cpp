@@ -3,37 +3,35 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QTime>
 #include <QVBoxLayout>
+#include <array>
 
 #include "numeric/number.h"
 #include "optimise/demand_paste.h"
 #include "optimise/screens/frmResult.h"
+#include "optimise/screens/piece_entry.h"
 #include "optimise/screens/run_panel.h"
 #include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
-#include "ui/digit_filter.h"
-#include "ui/digits_only.h"
 #include "ui/guard.h"
 #include "ui/message_notice.h"
+#include "ui/number_filter.h"
 #include "ui/report_list.h"
 #include "ui/shown.h"
 #include "ui/text.h"
-#include "ui/text_box.h"
 
 namespace kalvane {
 namespace {
 
 constexpr QSize kFirstSize(640, 560);
-constexpr int kNumberWidth = 110;
-const QString kPrompt = QStringLiteral("提示");
 const QString kFolderPurpose = QStringLiteral("demand");
 const QString kFileFilter = QStringLiteral("化数据文件*.DDD|*.DDD");
 
@@ -41,20 +39,12 @@ QString Now() {
     return QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
 }
 
-bool IsTable(const QString& text) {
-    return text.contains(QLatin1Char('\n')) || text.contains(QLatin1Char('\t')) ||
-           text.contains(QLatin1Char(','));
-}
-
 }  // namespace
 
 frmHandup::frmHandup(QWidget* parent)
     : EntryScreen(QStringLiteral("frmHandup"),
                   QStringLiteral("手工优化  控制结点数：%1").arg(App().optimise.NODES), parent),
-      txtName_(MakeBox(QStringLiteral("TxtName"), this)),
-      txtCD_(MakeBox(QStringLiteral("TxtCD"), this)),
-      txtSL_(MakeBox(QStringLiteral("TxtSL"), this)),
-      cmdAdd_(MakeButton("CmdAdd", QStringLiteral("添加 &A"), this)),
+      entry_(new PieceEntry(this)),
       lvw_(new ReportList(QStringLiteral("lvw"), {QStringLiteral("长度"), QStringLiteral("数量")}, this)),
       total_(new QLabel(this)),
       label4_(new QLabel(this)),
@@ -63,11 +53,7 @@ frmHandup::frmHandup(QWidget* parent)
     label4_->setObjectName(QStringLiteral("Label4"));
     label4_->hide();
     statusBar_->setObjectName(QStringLiteral("StatusBar"));
-    for (QLineEdit* box : {txtCD_, txtSL_}) {
-        box->setValidator(new DigitsOnly(box, DigitsOnly::Points::Allowed));
-        box->setFixedWidth(kNumberWidth);
-        box->installEventFilter(this);
-    }
+    lvw_->SelectSeveral();
 
     QPushButton* remove = MakeButton("CmdDel", QStringLiteral("删除 &D"), this);
     QPushButton* paste = MakeButton("CmdPaste", QStringLiteral("粘贴 &V"), this,
@@ -89,21 +75,21 @@ frmHandup::frmHandup(QWidget* parent)
     middle->addLayout(list, 1);
     middle->addLayout(side);
     auto* all = new QVBoxLayout(this);
-    all->addWidget(MakeEntry());
+    all->addWidget(entry_);
     all->addLayout(middle, 1);
     all->addWidget(label4_);
     all->addWidget(runPanel_);
     all->addWidget(statusBar_);
     resize(kFirstSize);
 
-    EnterMovesTo(txtName_, txtCD_);
-    EnterMovesTo(txtCD_, txtSL_);
-    EnterMovesTo(txtSL_, cmdAdd_);
+    EnterWalks(std::array{entry_->MaterialBox(), entry_->LengthBox(), entry_->CountBox()});
+    EnterMovesTo(entry_->CountBox(), entry_->AddButton());
     PressOnKey(lvw_, Qt::Key_Delete, remove);
     auto* pasteKey = new QShortcut(QKeySequence(QKeySequence::Paste), lvw_);
     pasteKey->setContext(Qt::WidgetShortcut);
+    OnSignal(entry_, &PieceEntry::TablePasted, this, [this] { Paste(); });
     OnSignal(pasteKey, &QShortcut::activated, this, [this] { Paste(); });
-    OnSignal(cmdAdd_, &QPushButton::clicked, this, [this] { Add(); });
+    OnSignal(entry_->AddButton(), &QPushButton::clicked, this, [this] { Add(); });
     OnSignal(remove, &QPushButton::clicked, this, [this] { Delete(); });
     OnSignal(paste, &QPushButton::clicked, this, [this] { Paste(); });
     OnSignal(open, &QPushButton::clicked, this, [this] { Open(); });
@@ -112,64 +98,32 @@ frmHandup::frmHandup(QWidget* parent)
         Guarded(
             this, [this] { Run(); }, QStringLiteral("出错"));
     });
-    OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
     ShowTotal();
 }
 
-QWidget* frmHandup::MakeEntry() {
-    auto* entry = new QWidget(this);
-    auto* name = new QHBoxLayout;
-    name->addWidget(new QLabel(QStringLiteral("材料名称：")));
-    name->addWidget(txtName_, 1);
-    auto* numbers = new QHBoxLayout;
-    numbers->addWidget(new QLabel(QStringLiteral("长度：")));
-    numbers->addWidget(txtCD_);
-    numbers->addWidget(new QLabel(QStringLiteral("数量：")));
-    numbers->addWidget(txtSL_);
-    numbers->addWidget(cmdAdd_);
-    numbers->addStretch();
-    auto* rows = new QVBoxLayout(entry);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->addLayout(name);
-    rows->addLayout(numbers);
-    return entry;
-}
-
 void frmHandup::done(int result) {
-    if (!runPanel_->RefusesToClose()) EntryScreen::done(result);
-}
-
-/// A table pasted into a number box goes to the list, instead of losing all that parts its numbers.
-bool frmHandup::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress) return EntryScreen::eventFilter(watched, event);
-    const bool pastes = static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste);
-    if (!pastes || !IsTable(QGuiApplication::clipboard()->text().trimmed())) {
-        return EntryScreen::eventFilter(watched, event);
-    }
-    Guarded(this, [this] { Paste(); });
-    return true;
+    if (runPanel_->IsRunning()) return runPanel_->CancelRun();  // the screen must not go away under its run
+    EntryScreen::done(result);
 }
 
 void frmHandup::Add() {
-    const ManualRow row{FromQt(txtCD_->text()), FromQt(txtSL_->text())};
+    const ManualRow row = entry_->Row();
     if (const auto failure = CheckManualRow(row, App().optimise)) {
-        UseDialogs().Message(this, ToQt(failure->message), kPrompt, failure->icon);
-        (failure->field == ManualRowFailure::Field::Length ? txtCD_ : txtSL_)->setFocus();
+        UseDialogs().Message(this, ToQt(failure->message), PromptTitle(), failure->icon);
+        const bool isLength = failure->field == ManualRowFailure::Field::Length;
+        (isLength ? entry_->LengthBox() : entry_->CountBox())->setFocus();
         return;
     }
     AddRows({row});
-    txtCD_->clear();
-    txtSL_->clear();
-    txtCD_->setFocus();
+    entry_->StartRow();
 }
 
 void frmHandup::Delete() {
-    const int row = lvw_->SelectedRow();
-    if (row < 0) {
-        Tell(QStringLiteral("无删除数据！"));
-        return;
-    }
-    lvw_->RemoveRow(row);
+    const int row = lvw_->SelectedOrTell(QStringLiteral("无删除数据！"));
+    if (row < 0) return;
+    const std::vector<int> rows = lvw_->SelectedRows();
+    for (auto doomed = rows.rbegin(); doomed != rows.rend(); ++doomed) lvw_->RemoveRow(*doomed);
     ShowTotal();
 }
 
@@ -178,9 +132,9 @@ void frmHandup::Paste() {
     const PastedDemand pasted = ParsePastedDemand(text, App().optimise);
     AddRows(pasted.rows);
     if (!pasted.complaints.IsEmpty()) {
-        Tell(ToQt(pasted.complaints.Message()));
+        Tell(this, ToQt(pasted.complaints.Message()));
     } else if (pasted.rows.empty()) {
-        Tell(QStringLiteral("剪贴板中没有长度和数量两列数据。"));
+        Tell(this, QStringLiteral("剪贴板中没有长度和数量两列数据。"));
     }
 }
 
@@ -189,32 +143,24 @@ void frmHandup::Open() {
     if (file.isEmpty()) return;
     std::vector<ManualRow> rows;
     const auto read = [&] { ReadDemandFile(FromQt(file), rows); };
-    Guarded(this, read, kPrompt);
+    Guarded(this, read, PromptTitle());
     AddRows(rows);  // also those before a place where the file is damaged
 }
 
 void frmHandup::Save() {
-    if (lvw_->RowCount() == 0) {
-        Tell(QStringLiteral("数据为空不能保存！"));
-        return;
-    }
-    const QString file =
-        UseDialogs().SaveFileName(this, kFolderPurpose, kFileFilter, QStringLiteral("DDD"), true);
+    if (lvw_->RowCount() == 0) return Tell(this, QStringLiteral("数据为空不能保存！"));
+    const QString file = UseDialogs().SaveFileName(
+        this, {kFolderPurpose, kFileFilter, QStringLiteral("DDD"), entry_->Material()});
     if (!file.isEmpty()) WriteDemandFile(FromQt(file), Rows());
 }
 
 void frmHandup::Run() {
     if (runPanel_->IsRunning()) return;
-    if (txtName_->text().isEmpty()) {
-        Tell(QStringLiteral("材料名称不能为空！"));
-        txtName_->setFocus();
-        return;
+    if (entry_->Material().isEmpty()) {
+        return TellAt(this, QStringLiteral("材料名称不能为空！"), entry_->MaterialBox());
     }
     const std::vector<ManualRow> rows = Rows();
-    if (rows.empty()) {
-        Tell(QStringLiteral("优化的数据不能为空！"));
-        return;
-    }
+    if (rows.empty()) return Tell(this, QStringLiteral("优化的数据不能为空！"));
     label4_->setText(QStringLiteral("稍候优化正在进行中......"));
     const QString start = QStringLiteral("起始时间：") + Now();
     {
@@ -223,8 +169,8 @@ void frmHandup::Run() {
         MessageNotice notice(this);
         runPanel_->Run(
             [&](const RunProgress& progress) {
-                return RunManual(App().Main(), App().optimise, App().YHScheme, FromQt(txtName_->text()), rows,
-                                 notice, progress);
+                return RunManual(App().Main(), App().optimise, App().YHScheme, FromQt(entry_->Material()),
+                                 rows, notice, progress);
             },
             [this](const RunStage& stage) {
                 runPanel_->Bar().setRange(0, stage.pieces);
@@ -237,7 +183,9 @@ void frmHandup::Run() {
 }
 
 void frmHandup::AddRows(const std::vector<ManualRow>& rows) {
-    for (const ManualRow& row : rows) lvw_->AddRow({ToQt(row.length), ToQt(row.count)});
+    QList<QStringList> texts;
+    for (const ManualRow& row : rows) texts << QStringList{ToQt(row.length), ToQt(row.count)};
+    lvw_->AddRows(texts);
     lvw_->scrollToBottom();
     ShowTotal();
 }
@@ -254,10 +202,6 @@ void frmHandup::ShowTotal() {
     double pieces = 0;
     for (const ManualRow& row : Rows()) pieces += Val(row.count);
     total_->setText(QStringLiteral("共 %1 行，%2 件").arg(lvw_->RowCount()).arg(pieces));
-}
-
-void frmHandup::Tell(const QString& text) {
-    UseDialogs().Message(this, text, kPrompt, NoticeIcon::Information);
 }
 
 }  // namespace kalvane

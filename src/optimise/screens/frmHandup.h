@@ -6,12 +6,11 @@
 #include "ui/entry_screen.h"
 
 class QLabel;
-class QLineEdit;
-class QPushButton;
 class QStatusBar;
 
 namespace kalvane {
 
+class PieceEntry;
 class ReportList;
 class RunPanel;
 
@@ -23,10 +22,8 @@ class frmHandup : public EntryScreen {
     explicit frmHandup(QWidget* parent);
 
     void done(int result) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    QWidget* MakeEntry();
     void Add();
     void Delete();
     void Paste();
@@ -37,12 +34,8 @@ class frmHandup : public EntryScreen {
     void AddRows(const std::vector<ManualRow>& rows);
     std::vector<ManualRow> Rows() const;
     void ShowTotal();
-    void Tell(const QString& text);
 
-    QLineEdit* txtName_;
-    QLineEdit* txtCD_;
-    QLineEdit* txtSL_;
-    QPushButton* cmdAdd_;
+    PieceEntry* entry_;
     ReportList* lvw_;
     QLabel* total_;
     QLabel* label4_;

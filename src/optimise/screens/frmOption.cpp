@@ -8,9 +8,9 @@
 #include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
-#include "ui/digit_filter.h"
 #include "ui/guard.h"
 #include "ui/message_notice.h"
+#include "ui/number_filter.h"
 #include "ui/text.h"
 #include "ui/text_box.h"
 
@@ -49,13 +49,13 @@ frmOption::frmOption(QWidget* parent)
     rows->setSizeConstraint(QLayout::SetFixedSize);
 
     OnSignal(ok, &QPushButton::clicked, this, [this] { Store(); });
-    OnSignal(cancel, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
     Load();
 }
 
 void frmOption::AddBox(QFormLayout& fields, OptionField field, const char* name, const QString& label) {
     QLineEdit* box = MakeBox(QLatin1String(name), this, kBoxWidth);
-    box->setValidator(new DigitFilter(box));
+    NumberFilter::Set(box, NumberKeys::Any);
     fields.addRow(label, box);
     boxes_[static_cast<std::size_t>(field)] = box;
 }

@@ -14,8 +14,8 @@
 #include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
+#include "ui/file_export.h"
 #include "ui/guard.h"
-#include "ui/open_document.h"
 #include "ui/page_output.h"
 #include "ui/report_list.h"
 #include "ui/report_output.h"
@@ -31,11 +31,12 @@ const QString kFolderPurpose = QStringLiteral("plan");
 
 template <typename Row>
 void AddRows(ReportList& list, const std::vector<Row>& rows) {
+    QList<QStringList> lines;
     for (const Row& row : rows) {
-        QStringList texts;
+        QStringList& texts = lines.emplace_back();
         for (const std::string& text : row) texts << ToQt(text);
-        list.AddRow(texts);
     }
+    list.AddRows(lines);
 }
 
 }  // namespace
@@ -72,12 +73,12 @@ frmResult::frmResult(QWidget* parent)
 
     OnSignal(printDiagram, &QPushButton::clicked, this, [this] { PrintDiagram(); });
     OnSignal(printLabels, &QPushButton::clicked, this, [this] { PrintLabels(); });
-    OnSignal(save, &QPushButton::clicked, this, [this] { PutOut(); });
+    OnSignal(save, &QPushButton::clicked, this, [this] { Export(); });
     OnSignal(printCuts, &QPushButton::clicked, this,
              [this] { PrintReport(this, dsYHB(App().Main(), App().optimiseProjectName)); });
     OnSignal(printTotals, &QPushButton::clicked, this,
              [this] { PrintReport(this, dsYHBT(App().Main(), App().optimiseProjectName)); });
-    OnSignal(exit, &QPushButton::clicked, this, [this] { reject(); });
+    OnSignal(exit, &QPushButton::clicked, this, [this] { Leave(); });
     Guarded(this, [this] { Load(); });
 }
 
@@ -107,39 +108,21 @@ void frmResult::PrintLabels() {
 
 void frmResult::PrintOrTell(bool isEmpty, const QString& title, const PageSetup& setup,
                             const PaintPages& paint) {
-    if (isEmpty) {
-        UseDialogs().Message(this, QStringLiteral("没有优化结果。"), QStringLiteral("提示"),
-                             NoticeIcon::Information);
-        return;
-    }
+    if (isEmpty) return Tell(this, QStringLiteral("没有优化结果。"));
     PrintDocument(this, title, setup, paint);
 }
 
-void frmResult::PutOut() {
+void frmResult::Export() {
     const PlanOutput plan =
         LoadPlanOutput(App().Main(), App().optimiseProjectName,
                        FromQt(QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd"))));
+    const QString name = ToQt(App().optimiseProjectName) + QStringLiteral("-材料优化");
     if (App().outputFileType != 0) {
-        PutOutText(plan);
+        ExportText(this, kFolderPurpose, name, [&](const auto& file) { SavePlanText(plan, file); });
     } else {
-        PutOutWorkbook(plan);
-    }
-}
-
-void frmResult::PutOutText(const PlanOutput& plan) {
-    const QString file = UseDialogs().SaveFileName(this, kFolderPurpose, QStringLiteral("*.txt|*.txt"),
-                                                   QStringLiteral("txt"), true);
-    if (!file.isEmpty()) SavePlanText(plan, FromQt(file));
-}
-
-void frmResult::PutOutWorkbook(const PlanOutput& plan) {
-    const QString file = UseDialogs().SaveFileName(
-        this, kFolderPurpose, QStringLiteral("Excel 工作簿|*.xlsx"), QStringLiteral("xlsx"), true);
-    if (file.isEmpty()) return;
-    PlanWorkbook(plan).Save(FromQt(file));
-    if (!OpenDocument(file)) {
-        UseDialogs().Message(this, QStringLiteral("确认您的系统中是否安装了Excel软件或版本不兼容！"),
-                             QStringLiteral("提示"), NoticeIcon::Information);
+        ExportWorkbook(
+            this, kFolderPurpose, name, [&](const auto& file) { PlanWorkbook(plan).Save(file); },
+            QStringLiteral("确认您的系统中是否安装了Excel软件或版本不兼容！"));
     }
 }
 

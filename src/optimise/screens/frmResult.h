@@ -8,7 +8,6 @@ namespace kalvane {
 class CutDiagramView;
 class ReportList;
 class YieldColumns;
-struct PlanOutput;
 
 /// The cutting plan in 优化结果: its bars, its totals by material, and 切割图.
 class frmResult : public Screen {
@@ -22,9 +21,7 @@ class frmResult : public Screen {
     void PrintDiagram();
     void PrintLabels();
     void PrintOrTell(bool isEmpty, const QString& title, const PageSetup& setup, const PaintPages& paint);
-    void PutOut();
-    void PutOutText(const PlanOutput& plan);
-    void PutOutWorkbook(const PlanOutput& plan);
+    void Export();
 
     ReportList* lvw1_;
     ReportList* lvw2_;

@@ -89,7 +89,7 @@ RunPanel::RunPanel(QWidget* screen)
         part->setSizePolicy(room);
     }
     ShowParts(false);
-    OnSignal(cancel_, &QPushButton::clicked, screen, [this] { RefusesToClose(); });
+    OnSignal(cancel_, &QPushButton::clicked, screen, [this] { CancelRun(); });
 }
 
 void RunPanel::Run(const Work& work, const Show& show) {
@@ -102,9 +102,7 @@ void RunPanel::Run(const Work& work, const Show& show) {
         end = work([&](const RunStage& stage) { Tick(stage, show); });
     }
     if (end == RunEnd::Cancelled) {
-        UseDialogs().Message(
-            screen_, QStringLiteral("优化已取消，已排好的 %1 根材料保留在优化结果中。").arg(stage_.bars),
-            QStringLiteral("提示"), NoticeIcon::Information);
+        Tell(screen_, QStringLiteral("优化已取消，已排好的 %1 根材料保留在优化结果中。").arg(stage_.bars));
     }
 }
 
@@ -113,11 +111,9 @@ void RunPanel::ShowParts(bool shown) {
     cancel_->setEnabled(shown);
 }
 
-bool RunPanel::RefusesToClose() {
-    if (!isRunning_) return false;
+void RunPanel::CancelRun() {
     isCancelled_ = true;
     cancel_->setEnabled(false);
-    return true;
 }
 
 void RunPanel::Tick(const RunStage& stage, const Show& show) {

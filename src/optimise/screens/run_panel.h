@@ -16,7 +16,7 @@ namespace kalvane {
 /// screen painted, and takes the operator's wish to end it. Meanwhile the rest of the screen is disabled.
 ///
 /// All of it happens on the one thread: the run calls back, and the panel lets the events through. So a
-/// screen must not go away under its run: its done() asks RefusesToClose() first.
+/// screen must not go away under its run: its done() cancels the run instead.
 class RunPanel : public QWidget {
     Q_OBJECT
 
@@ -36,8 +36,8 @@ class RunPanel : public QWidget {
 
     bool IsRunning() const { return isRunning_; }
 
-    /// True while a run is on, which is asked to end then.
-    bool RefusesToClose();
+    /// Asks the run that is on to end.
+    void CancelRun();
 
   private:
     class Running;

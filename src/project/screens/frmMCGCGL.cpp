@@ -2,12 +2,12 @@
 
 #include <QPushButton>
 
-#include "project/screens/frmInputGC.h"
 #include "project/screens/frmOpenGC.h"
 #include "session/app_state.h"
 #include "session/shared_slots.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
+#include "ui/entry_form.h"
 #include "ui/guard.h"
 #include "ui/report_list.h"
 #include "ui/text.h"
@@ -16,7 +16,6 @@ namespace kalvane {
 namespace {
 
 constexpr QSize kFirstSize(900, 520);
-const QString kTitle = QStringLiteral("提示");
 
 QStringList ToRow(const Project& project) {
     return {ToQt(project.name), ToQt(project.place), ToQt(project.client), ToQt(project.contractNumber),
@@ -49,6 +48,7 @@ frmMCGCGL::frmMCGCGL(ProjectRoads roads, QWidget* parent)
     MarkAsComing(copy);
     open->setDefault(true);
 
+    lvw_->OfferInMenu({open, add, edit, del});
     LayOutBesideButtons(this, lvw_, {{add, edit, del, open, contract, copy}}, exit);
     resize(kFirstSize);
 
@@ -60,7 +60,7 @@ frmMCGCGL::frmMCGCGL(ProjectRoads roads, QWidget* parent)
     OnSignal(del, &QPushButton::clicked, this, [this] { Delete(); });
     OnSignal(open, &QPushButton::clicked, this, [this] { Open(); });
     OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Open(); });
-    OnSignal(exit, &QPushButton::clicked, this, [this] { close(); });
+    OnSignal(exit, &QPushButton::clicked, this, [this] { Leave(); });
     Guarded(this, [this] { Load(); });
 }
 
@@ -70,7 +70,9 @@ void frmMCGCGL::showEvent(QShowEvent* event) {
 }
 
 void frmMCGCGL::Load() {
-    for (const Project& project : ListProjects(App().Main())) lvw_->AddRow(ToRow(project));
+    QList<QStringList> rows;
+    for (const Project& project : ListProjects(App().Main())) rows << ToRow(project);
+    lvw_->AddRows(rows);
 }
 
 void frmMCGCGL::Add() {
@@ -80,50 +82,59 @@ void frmMCGCGL::Add() {
 }
 
 void frmMCGCGL::Edit() {
-    const std::optional<Project> before = Selected(QStringLiteral("无选取所需编辑的对象！"));
-    if (!before) return;
+    const int row = lvw_->SelectedOrTell(QStringLiteral("无选取所需编辑的对象！"));
+    if (row < 0) return;
     const auto save = [](const Project& project) { UpdateProject(App().Main(), project); };
-    const std::optional<Project> project = Input(QStringLiteral("编辑->工程"), *before, save);
+    const std::optional<Project> project =
+        Input(QStringLiteral("编辑->工程"), ToProject(lvw_->Row(row)), save);
     if (!project) return;
-    lvw_->SetRow(lvw_->SelectedRow(), ToRow(*project));
+    lvw_->SetRow(row, ToRow(*project));
     if (frmOpenGC* opened = frmOpenGC::OfProject(project->number)) opened->SetProject(*project);
 }
 
 void frmMCGCGL::Delete() {
-    const std::optional<Project> project = Selected(QStringLiteral("无选取所需删除的对象！"));
-    if (!project) return;
-    const QString question = QStringLiteral("确认要删除工程：%1吗？").arg(ToQt(project->name));
-    if (!UseDialogs().AskYesNo(this, question, kTitle)) return;
-    DeleteProject(App().Main(), project->number);
-    lvw_->RemoveRow(lvw_->SelectedRow());
+    const int row = lvw_->SelectedOrTell(QStringLiteral("无选取所需删除的对象！"));
+    if (row < 0) return;
+    const Project project = ToProject(lvw_->Row(row));
+    if (!AskToLose(this, QStringLiteral("确认要删除工程：%1吗？").arg(ToQt(project.name)))) return;
+    DeleteProject(App().Main(), project.number);
+    lvw_->RemoveRow(row);
     // A window added there later would belong to no project.
-    if (frmOpenGC* opened = frmOpenGC::OfProject(project->number)) opened->close();
+    if (frmOpenGC* opened = frmOpenGC::OfProject(project.number)) opened->Leave();
 }
 
 void frmMCGCGL::Open() {
-    const std::optional<Project> project = Selected(QStringLiteral("无打开的工程！"));
-    if (project) frmOpenGC::Open(*project, roads_);
-}
-
-std::optional<Project> frmMCGCGL::Selected(const QString& complaint) {
-    const int row = lvw_->SelectedRow();
-    if (row < 0) {
-        UseDialogs().Message(this, complaint, kTitle, NoticeIcon::Information);
-        return std::nullopt;
-    }
-    return ToProject(lvw_->Row(row));
+    const int row = lvw_->SelectedOrTell(QStringLiteral("无打开的工程！"));
+    if (row >= 0) frmOpenGC::Open(ToProject(lvw_->Row(row)), roads_);
 }
 
 std::optional<Project> frmMCGCGL::Input(const QString& title, Project project,
                                         const std::function<void(Project&)>& save) {
-    for (;;) {
-        frmInputGC input(title, this);
-        input.Fill(project);
-        if (input.exec() != QDialog::Accepted) return std::nullopt;
-        const FieldSlots& slots = SharedFieldSlots();
+    FieldSlots& slots = SharedFieldSlots();
+    EntryForm input(QStringLiteral("frmInputGC"), title,
+                    {{.name = QStringLiteral("Text1(0)"),
+                      .caption = QStringLiteral("工程名称："),
+                      .slot = 2,
+                      .column = QStringLiteral("工程名称")},
+                     {.name = QStringLiteral("Text1(1)"),
+                      .caption = QStringLiteral("工程地点："),
+                      .slot = 3,
+                      .column = QStringLiteral("工程地点")},
+                     {.name = QStringLiteral("Text1(2)"),
+                      .caption = QStringLiteral("甲方单位："),
+                      .slot = 4,
+                      .column = QStringLiteral("甲方单位")},
+                     {.name = QStringLiteral("Text1(3)"),
+                      .caption = QStringLiteral("合同编号："),
+                      .slot = 1,
+                      .column = QStringLiteral("合同编号")}},
+                    slots, this);
+    input.Fill({ToQt(project.name), ToQt(project.place), ToQt(project.client), ToQt(project.contractNumber)});
+    const bool confirmed = input.Run([&] {
         project = {project.number, slots[1], slots[2], slots[3], slots[4]};
-        if (Guarded(this, [&] { save(project); })) return project;
-    }
+        save(project);
+    });
+    return confirmed ? std::optional(project) : std::nullopt;
 }
 
 }  // namespace kalvane

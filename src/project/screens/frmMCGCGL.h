@@ -28,10 +28,7 @@ class frmMCGCGL : public Screen {
     void Delete();
     void Open();
 
-    /// The project of the selected row; with no selection says `complaint`.
-    std::optional<Project> Selected(const QString& complaint);
-    /// Has a project typed in and saved; nothing when cancelled. What the store refuses comes up again, so
-    /// that nothing typed is lost.
+    /// Has a project typed in and saved; nothing when cancelled.
     std::optional<Project> Input(const QString& title, Project project,
                                  const std::function<void(Project&)>& save);
 

@@ -20,7 +20,6 @@ namespace {
 constexpr QSize kFirstSize(980, 560);
 constexpr int kNumberColumn = 8;
 const QString kScreenName = QStringLiteral("frmOpenGC");
-const QString kTitle = QStringLiteral("提示");
 constexpr std::string_view kStartNumberKey = "AUTONUM";
 }  // namespace
 
@@ -42,6 +41,7 @@ frmOpenGC::frmOpenGC(ProjectRoads roads, QWidget* parent)
     for (QPushButton* button : {composite, sheets, totals}) MarkAsComing(button);
     edit->setDefault(true);
 
+    lvw_->OfferInMenu({edit, add, del});
     LayOutBesideButtons(this, lvw_, {{add, composite, edit, del}, {number, sheets, totals, optimise}}, exit);
     resize(kFirstSize);
 
@@ -53,7 +53,7 @@ frmOpenGC::frmOpenGC(ProjectRoads roads, QWidget* parent)
     OnSignal(del, &QPushButton::clicked, this, [this] { Delete(); });
     OnSignal(number, &QPushButton::clicked, this, [this] { AskStartNumber(); });
     OnSignal(optimise, &QPushButton::clicked, this, [this] { Optimise(); });
-    OnSignal(exit, &QPushButton::clicked, this, [this] { close(); });
+    OnSignal(exit, &QPushButton::clicked, this, [this] { Leave(); });
 }
 
 frmOpenGC* frmOpenGC::Shown() {
@@ -90,10 +90,12 @@ void frmOpenGC::SetProject(const Project& project) {
 
 void frmOpenGC::Reload(const QString& selected) {
     const std::vector<WindowEntry> windows = ListWindows(App().Main(), project_.number);
+    QList<QStringList> rows;
+    for (const WindowEntry& window : windows) rows << ToRow(window);
     lvw_->Clear();
-    for (const WindowEntry& window : windows) {
-        const int row = lvw_->AddRow(ToRow(window));
-        if (ToQt(window.number) == selected) lvw_->SelectRow(row);
+    lvw_->AddRows(rows);
+    for (int row = 0; row < lvw_->RowCount(); ++row) {
+        if (lvw_->Text(row, kNumberColumn) == selected) lvw_->SelectRow(row);
     }
 }
 
@@ -109,15 +111,11 @@ void frmOpenGC::Add() {
 }
 
 void frmOpenGC::Edit() {
-    const int row = lvw_->SelectedRow();
-    if (row < 0) {
-        UseDialogs().Message(this, QStringLiteral("无选取所要编辑的门窗！"), kTitle, NoticeIcon::Information);
-        return;
-    }
+    const int row = lvw_->SelectedOrTell(QStringLiteral("无选取所要编辑的门窗！"));
+    if (row < 0) return;
     const WindowEntry window = ToWindow(lvw_->Row(row));
     if (OpensAsComposite(window.typeNumber)) {
-        UseDialogs().Message(this, QStringLiteral("组合门窗的编辑将在后续版本中提供。"), kTitle,
-                             NoticeIcon::Information);
+        Tell(this, QStringLiteral("组合门窗的编辑将在后续版本中提供。"));
         return;
     }
     frmAddGCMC screen(this);
@@ -133,15 +131,10 @@ void frmOpenGC::RunWindowScreen(frmAddGCMC& screen) {
 }
 
 void frmOpenGC::Delete() {
-    const int row = lvw_->SelectedRow();
-    if (row < 0) {
-        UseDialogs().Message(this, QStringLiteral("在当前工程中无删除的门窗！"), kTitle,
-                             NoticeIcon::Information);
-        return;
-    }
+    const int row = lvw_->SelectedOrTell(QStringLiteral("在当前工程中无删除的门窗！"));
+    if (row < 0) return;
     const WindowEntry window = ToWindow(lvw_->Row(row));
-    const QString question = QStringLiteral("确认要删除门窗：%1吗？").arg(ToQt(window.name));
-    if (!UseDialogs().AskYesNo(this, question, kTitle)) return;
+    if (!AskToLose(this, QStringLiteral("确认要删除门窗：%1吗？").arg(ToQt(window.name)))) return;
     DeleteWindow(App().Main(), window.number);
     lvw_->RemoveRow(row);
 }

@@ -161,6 +161,7 @@ TEST_F(FrmDrawTest, TheLibraryDialogsCheckDeleteAndHandBack) {
     ModalScript()
         .On("frmOpenPicture",
             [&](QDialog& open) {
+                Deselect(open, "lvw");
                 test::Press(open, "OKButton");
                 test::Press(open, "CmdDel");
                 auto* lvw = Find<ReportList>(&open, "lvw");

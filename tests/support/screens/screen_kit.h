@@ -43,6 +43,11 @@ inline void SetText(const QWidget& screen, const char* box, const char* text) {
     Find<QLineEdit>(&screen, box)->setText(QString::fromUtf8(text));
 }
 
+/// Takes away the selection of a list, which has its first row selected when it is opened.
+inline void Deselect(const QWidget& screen, const char* name) {
+    Find<ReportList>(&screen, name)->setCurrentItem(nullptr);
+}
+
 /// The rows of a list, as Rows gives those of a store.
 inline std::string Table(const QWidget& screen, const char* name) {
     const auto* list = Find<ReportList>(&screen, name);
@@ -99,7 +104,7 @@ class ModalScript {
         steps_.pop_front();
         const QPointer<QDialog> open(screen);
         step.work(*screen);
-        if (open != nullptr && open->isVisible()) open->reject();
+        if (open != nullptr && open->isVisible()) open->done(QDialog::Rejected);
     }
 
     QObject alive_;  ///< polls end with the script

@@ -18,8 +18,10 @@ class ScriptedDialogs final : public Dialogs {
     ~ScriptedDialogs() override { SetDialogs(nullptr); }
 
     QStringList shown;
-    QList<NoticeIcon> icons;  ///< of the messages
-    QStringList filters;      ///< of the file dialogs
+    QList<NoticeIcon> icons;     ///< of the messages
+    QList<Answer> usualAnswers;  ///< of the questions
+    QStringList filters;         ///< of the file dialogs
+    QStringList names;           ///< suggested by the save dialogs
     std::deque<bool> answers;
     std::deque<QString> inputs;  ///< a null text cancels
     std::deque<QString> files;   ///< an empty name cancels
@@ -31,8 +33,12 @@ class ScriptedDialogs final : public Dialogs {
         Record(title, text);
         icons << icon;
     }
-    bool AskYesNo(QWidget*, const QString& text, const QString& title) override { return Ask(title, text); }
-    bool AskOkCancel(QWidget*, const QString& text, const QString& title) override {
+    bool AskYesNo(QWidget*, const QString& text, const QString& title, Answer usual) override {
+        usualAnswers << usual;
+        return Ask(title, text);
+    }
+    bool AskOkCancel(QWidget*, const QString& text, const QString& title, Answer usual) override {
+        usualAnswers << usual;
         return Ask(title, text);
     }
     std::optional<QString> InputText(QWidget*, const QString& title, const QString& prompt,
@@ -45,10 +51,10 @@ class ScriptedDialogs final : public Dialogs {
         filters << filter;
         return Next(files, purpose);
     }
-    QString SaveFileName(QWidget*, const QString& purpose, const QString& filter, const QString&,
-                         bool) override {
-        filters << filter;
-        return Next(files, purpose);
+    QString SaveFileName(QWidget*, const SaveRequest& request) override {
+        filters << request.filter;
+        names << request.name;
+        return Next(files, request.purpose);
     }
 
   private:
