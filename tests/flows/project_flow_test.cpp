@@ -168,6 +168,7 @@ TEST_F(ProjectFlow, WindowsAreChangedAndDeleted) {
     App().Main().Execute("Insert into 工程门窗 (工程编号,门窗编号,编号,门窗名称) values(1,-5,40,'组合')");
     frmOpenGC* opened = OpenSample();
     auto* lvw = Find<ReportList>(opened, "Lvw");
+    Deselect(*opened, "Lvw");
     for (const char* button : {"CmdEdit", "CmdDel"}) Press(*opened, button);
     lvw->SelectRow(lvw->RowCount() - 1);
     Press(*opened, "CmdEdit");

@@ -1,6 +1,7 @@
 #include "project/screens/frmMCGCGL.h"
 
 #include <QPushButton>
+#include <algorithm>
 
 #include "project/screens/frmOpenGC.h"
 #include "session/app_state.h"
@@ -64,14 +65,11 @@ frmMCGCGL::frmMCGCGL(ProjectRoads roads, QWidget* parent)
     Guarded(this, [this] { Load(); });
 }
 
-void frmMCGCGL::showEvent(QShowEvent* event) {
-    Screen::showEvent(event);
-    lvw_->sortItems(0, Qt::AscendingOrder);
-}
-
 void frmMCGCGL::Load() {
     QList<QStringList> rows;
     for (const Project& project : ListProjects(App().Main())) rows << ToRow(project);
+    // By name; projects of one name in the order of the store.
+    std::stable_sort(rows.begin(), rows.end(), [](const auto& a, const auto& b) { return a[0] < b[0]; });
     lvw_->AddRows(rows);
 }
 

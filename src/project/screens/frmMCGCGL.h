@@ -18,9 +18,6 @@ class frmMCGCGL : public Screen {
   public:
     frmMCGCGL(ProjectRoads roads, QWidget* parent);
 
-  protected:
-    void showEvent(QShowEvent* event) override;
-
   private:
     void Load();
     void Add();

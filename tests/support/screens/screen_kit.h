@@ -45,7 +45,7 @@ inline void SetText(const QWidget& screen, const char* box, const char* text) {
 
 /// Takes away the selection of a list, which has its first row selected when it is opened.
 inline void Deselect(const QWidget& screen, const char* name) {
-    Find<ReportList>(&screen, name)->setCurrentItem(nullptr);
+    Find<ReportList>(&screen, name)->clearSelection();
 }
 
 /// The rows of a list, as Rows gives those of a store.
