@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <map>
 
 #include "drawing/shapes.h"
@@ -47,7 +48,9 @@ constexpr float kFootHeight = 320;
 /// Strokes from the lower left to the upper right, by which a rest is recognised in grey print too.
 void Hatch(PageTarget& target, const Box& box) {
     const float height = box.y2 - box.y1;
-    for (float x = box.x1 + kHatchGap - height; x < box.x2; x += kHatchGap) {
+    const auto strokes = static_cast<int>(std::ceil((box.x2 - box.x1 + height) / kHatchGap));
+    for (int stroke = 1; stroke < strokes; ++stroke) {
+        const float x = box.x1 - height + kHatchGap * static_cast<float>(stroke);
         const float from = std::max(x, box.x1);
         const float to = std::min(x + height, box.x2);
         target.DrawLine(from, box.y2 - (from - x), to, box.y2 - (to - x));

@@ -31,7 +31,7 @@ class PainterTarget : public PaintTarget {
     PainterTarget(QPainter& painter, double unitsPerTwip, Medium medium);
     PainterTarget(const PainterTarget&) = delete;
     PainterTarget& operator=(const PainterTarget&) = delete;
-    ~PainterTarget();
+    ~PainterTarget() override;
 
     void DrawLine(float x1, float y1, float x2, float y2) override;
     void DrawText(float x, float y, std::string_view text) override;
