@@ -11,7 +11,7 @@
 
 namespace kalvane {
 
-InstanceLock::InstanceLock(std::filesystem::path folder) : file_(std::move(folder) / ".kalvane.lock") {}
+InstanceLock::InstanceLock(const std::filesystem::path& folder) : file_(folder / ".kalvane.lock") {}
 
 InstanceLock::~InstanceLock() {
     if (descriptor_ >= 0) ::close(descriptor_);

@@ -9,7 +9,7 @@ namespace kalvane {
 /// itself.
 class InstanceLock {
   public:
-    explicit InstanceLock(std::filesystem::path folder);
+    explicit InstanceLock(const std::filesystem::path& folder);
     InstanceLock(const InstanceLock&) = delete;
     InstanceLock& operator=(const InstanceLock&) = delete;
     ~InstanceLock();

@@ -5,7 +5,7 @@
 
 namespace kalvane {
 
-RunMarker::RunMarker(std::filesystem::path folder) : file_(std::move(folder) / ".kalvane.running") {}
+RunMarker::RunMarker(const std::filesystem::path& folder) : file_(folder / ".kalvane.running") {}
 
 RunMarker::~RunMarker() {
     std::error_code ignored;

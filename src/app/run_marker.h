@@ -8,7 +8,7 @@ namespace kalvane {
 /// runs, and a killed program leaves it behind.
 class RunMarker {
   public:
-    explicit RunMarker(std::filesystem::path folder);
+    explicit RunMarker(const std::filesystem::path& folder);
     RunMarker(const RunMarker&) = delete;
     RunMarker& operator=(const RunMarker&) = delete;
     /// Ends the run: removes the file when it is this run's.
