@@ -2,7 +2,7 @@
 
 PACKAGES=(
     g++ cmake ninja-build ccache mold pkg-config
-    qt6-base-dev libqt6svg6-dev libgl-dev qt6-wayland
+    qt6-base-dev qt6-svg-dev libgl-dev qt6-wayland
     libsqlite3-dev libxlsxwriter-dev zlib1g-dev libcli11-dev
     libzip-dev libpugixml-dev libfreexl-dev libzint-dev
     libgtest-dev
