@@ -3,6 +3,7 @@
 
 #include "batch/commands.h"
 #include "batch/wind_commands.h"
+#include "numeric/error.h"
 
 using namespace kalvane;
 
@@ -34,9 +35,7 @@ std::vector<std::string> Arguments(int argc, char* argv[]) {
     return words;
 }
 
-}  // namespace
-
-int main(int argc, char* argv[]) {
+int Run(int argc, char* argv[]) {
     CLI::App application(
         "Kalvane without a screen: formulas, bills of material, cutting plans and wind-pressure checks",
         "kalvane-batch");
@@ -82,13 +81,21 @@ int main(int argc, char* argv[]) {
 
     try {
         application.parse(Arguments(argc, argv));
-        std::cout.flush();
-        if (std::cout) return 0;
-        std::cerr << "结果不能写出。\n";
     } catch (const CLI::CallForHelp& help) {
         return application.exit(help);
+    }
+    std::cout.flush();
+    if (!std::cout) throw FileError("结果不能写出。");
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    try {
+        return Run(argc, argv);
     } catch (const std::exception& failure) {
         std::cerr << failure.what() << '\n';
+        return 1;
     }
-    return 1;
 }
