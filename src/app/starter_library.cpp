@@ -62,10 +62,10 @@ void InsertLine(Connection& main, const Table& table, const std::vector<std::str
         }
         const Column* column = FindColumn(table, headings[i]);
         if (column == nullptr) throw FileError("没有列“" + std::string(headings[i]) + "”");
-        const std::string quote = IsTextColumn(*column) && !cells[i].empty() ? "'" : "";
+        const std::string_view quote = IsTextColumn(*column) ? "'" : "";
         columns += (columns.empty() ? "" : ",") + std::string(headings[i]);
         values += values.empty() ? "" : ",";
-        values += cells[i].empty() ? "Null" : quote + std::string(cells[i]) + quote;
+        values += cells[i].empty() ? "Null" : std::string(quote).append(cells[i]).append(quote);
     }
     main.Execute("Insert into " + std::string(table.name) + " (" + columns + ") values(" + values + ")");
     if (!drawingFile.empty()) SaveDrawing(main, cells[0], drawingFile);

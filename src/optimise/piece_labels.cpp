@@ -46,8 +46,9 @@ void PaintLabels(PageTarget& target, const std::vector<PieceLabel>& labels) {
         if (i > 0 && i % kPerSheet == 0) target.NewPage();
         const PieceLabel& label = labels[i];
         const std::size_t place = i % kPerSheet;
+        const std::size_t row = place / kLabelColumns;
         const float left = static_cast<float>(place % kLabelColumns) * width + kInset;
-        const float top = static_cast<float>(place / kLabelColumns) * height + kInset;
+        const float top = static_cast<float>(row) * height + kInset;
         const float bottom = top + height - 2 * kInset;
         const float room = width - 2 * kInset;
 
