@@ -86,15 +86,13 @@ class Scanner {
     void TakeText() {
         Literal literal;
         literal.isText = true;
-        std::size_t end = at_ + 1;
-        for (;; ++end) {
-            end = sql_.find('\'', end);
-            if (end == std::string_view::npos) {
-                throw StoreError("语句里的引号不成对，文字中不能含有单引号（'）。");
-            }
-            if (end + 1 >= sql_.size() || sql_[end + 1] != '\'') break;
+        std::size_t end = sql_.find('\'', at_ + 1);
+        while (end != std::string_view::npos && sql_.substr(end + 1).starts_with('\'')) {
             literal.hasDoubledQuotes = true;
-            ++end;
+            end = sql_.find('\'', end + 2);
+        }
+        if (end == std::string_view::npos) {
+            throw StoreError("语句里的引号不成对，文字中不能含有单引号（'）。");
         }
         literal.source = sql_.substr(at_ + 1, end - at_ - 1);
         AddLiteral(literal, end + 1);

@@ -19,7 +19,6 @@ const char* DeclaredType(ColumnType type) {
         case ColumnType::Money:
             return "MONEY";
         case ColumnType::Text:
-            return "TEXT";
         case ColumnType::Memo:
             return "TEXT";
         case ColumnType::DateTime:
