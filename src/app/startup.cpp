@@ -55,7 +55,7 @@ std::unique_ptr<Connection> OpenOrReplace(const std::filesystem::path& file, Sto
                                            : "要从头开始，请选“否”，把文件夹“副本”移到别处后重新启动。");
         if (!notice.Confirm(question, kErrorTitle)) return nullptr;
         ReplaceByCopy(file, copy);
-        MigrateStore(file, kind);
+        MigrateStore(file, kind, notice);
         return OpenSound(file, kind, true);
     }
 }
@@ -67,7 +67,7 @@ std::unique_ptr<Connection> OpenStore(const AppState& state, const char* fileNam
     const std::string complaint = "‘" + name + "’数据库打开出错！\n";
     std::unique_ptr<Connection> connection;
     try {
-        MigrateStore(file, kind);
+        MigrateStore(file, kind, notice);
         connection = OpenOrReplace(file, kind, state.checkStores, complaint, notice);
     } catch (const Error& error) {
         notice.Show(complaint + error.what(), kErrorTitle, NoticeIcon::Error);
@@ -102,7 +102,7 @@ void OpenMainStore(AppState& state, Notice& notice) {
     state.mainConnectionText = TextOf(state.mainConnection);
     if (state.mainConnection == nullptr) return;
     try {
-        MigrateStore(state.folder / kTemplateStoreName, StoreKind::Main);
+        MigrateStore(state.folder / kTemplateStoreName, StoreKind::Main, notice);
         OfferToUndoCutRestore(*state.mainConnection, notice);
     } catch (const Error& error) {
         notice.Show(error.what(), kErrorTitle, NoticeIcon::Error);

@@ -45,7 +45,8 @@ class LockedStore {
             throw StoreError("数据库“" + file.filename().string() +
                              "”不见了，但有它的副本。请启动桌面程序，用副本恢复。");
         }
-        MigrateStore(file, StoreKind::Main);
+        LineNotice notice;
+        MigrateStore(file, StoreKind::Main, notice);
         connection_.emplace(file, StoreKind::Main);
     }
     Connection& Get() { return *connection_; }

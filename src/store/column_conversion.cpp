@@ -1,5 +1,8 @@
 #include "store/column_conversion.h"
 
+#include <optional>
+
+#include "numeric/date.h"
 #include "numeric/error.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
@@ -33,6 +36,17 @@ double AsMoney(const WrittenValue& target, const EngineValue& value) {
     return std::holds_alternative<double>(value) ? RoundToMoney(number) : RoundToMoney(Shown(value));
 }
 
+double AsDate(const WrittenValue& target, const EngineValue& value) {
+    if (const auto* text = std::get_if<std::string_view>(&value)) {
+        const std::optional<Date> date = ParseDate(*text);
+        if (!date) Refuse(target, value, "不是日期，日期应写成 2002-03-04");
+        return date->serial;
+    }
+    const double serial = AsNumber(target, value);
+    if (!IsDate(serial)) throw NumericError::Overflow();
+    return serial;
+}
+
 }  // namespace
 
 EngineValue ConvertForColumn(const WrittenValue& target, const EngineValue& value, std::string& scratch) {
@@ -47,9 +61,10 @@ EngineValue ConvertForColumn(const WrittenValue& target, const EngineValue& valu
                 return static_cast<double>(NarrowToFloat(AsNumber(target, value)));
             case ColumnType::Money:
                 return AsMoney(target, value);
+            case ColumnType::DateTime:
+                return AsDate(target, value);
             case ColumnType::Text:
             case ColumnType::Memo:
-            case ColumnType::DateTime:
                 break;
         }
     } catch (const NumericError&) {

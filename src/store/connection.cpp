@@ -57,6 +57,13 @@ std::string_view DecimalText(const Literal& literal, std::string& scratch) {
     return scratch;
 }
 
+/// The declared types whose values are not read as they are stored. An expression has no declared type.
+ColumnType DeclaredType(const char* declared) {
+    const std::string_view type = declared == nullptr ? "" : declared;
+    if (type == "FLOAT32") return ColumnType::Float32;
+    return type == "DATETIME" ? ColumnType::DateTime : ColumnType::Memo;
+}
+
 EngineValue ArgumentValue(sqlite3_value* argument) {
     switch (sqlite3_value_type(argument)) {
         case SQLITE_INTEGER:
@@ -112,7 +119,7 @@ void Connection::Implementation::Configure(StoreKind kind) {
     sqlite3_db_config(database, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_create_function_v2(database, "kalvane_store", 2, SQLITE_UTF8, this, &StoreFunction, nullptr,
                                nullptr, nullptr);
-    AddComparisonFunctions(database);
+    AddComparisonFunctions(database, conversionFailure_);
     if (IsReadOnly(kind)) {
         sqlite3_db_config(database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
         sqlite3_db_config(database, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
@@ -182,8 +189,7 @@ PreparedStatement& Connection::Implementation::Prepare(std::string_view sql) {
     std::vector<std::string> names;
     for (int column = 0; column < columns; ++column) {
         names.emplace_back(sqlite3_column_name(statement.handle, column));
-        const char* declared = sqlite3_column_decltype(statement.handle, column);
-        statement.isFloat32.push_back(declared != nullptr && std::string_view(declared) == "FLOAT32");
+        statement.types.push_back(DeclaredType(sqlite3_column_decltype(statement.handle, column)));
     }
     statement.names = std::make_shared<const std::vector<std::string>>(std::move(names));
     if (statements_.size() >= kMostStatements) ForgetStatements();
@@ -215,17 +221,17 @@ int Connection::Implementation::Step(PreparedStatement& statement) {
 }
 
 FieldValue Connection::Implementation::ReadField(const PreparedStatement& statement, int column) {
+    const ColumnType type = statement.types[static_cast<std::size_t>(column)];
+    const double real = sqlite3_column_double(statement.handle, column);
     switch (sqlite3_column_type(statement.handle, column)) {
         case SQLITE_NULL:
             return {};
         case SQLITE_INTEGER:
+            if (type == ColumnType::DateTime && IsDate(real)) return FieldValue(Date{real});
             return FieldValue(std::int64_t{sqlite3_column_int64(statement.handle, column)});
-        case SQLITE_FLOAT: {
-            const double value = sqlite3_column_double(statement.handle, column);
-            return statement.isFloat32[static_cast<std::size_t>(column)]
-                       ? FieldValue(static_cast<float>(value))
-                       : FieldValue(value);
-        }
+        case SQLITE_FLOAT:
+            if (type == ColumnType::DateTime && IsDate(real)) return FieldValue(Date{real});
+            return type == ColumnType::Float32 ? FieldValue(static_cast<float>(real)) : FieldValue(real);
         default:
             return FieldValue(
                 std::string(reinterpret_cast<const char*>(sqlite3_column_text(statement.handle, column)),

@@ -22,7 +22,7 @@ struct PreparedStatement {
     Translation translation;
     sqlite3_stmt* handle = nullptr;
     std::shared_ptr<const std::vector<std::string>> names;
-    std::vector<bool> isFloat32;
+    std::vector<ColumnType> types;  // of its columns; Memo where any value is read as it is stored
 };
 
 /// Binds a value, positions counted from 1. A text outside `scratch` must outlive the step; one in it is

@@ -125,8 +125,7 @@ ExpressionTranslator::Part ExpressionTranslator::Value() {
             const std::string name = tokens_.Take().text;
             if (tokens_.At("(")) tokens_.Fail();
             const Column* column = table_ == nullptr ? nullptr : FindColumn(*table_, name);
-            const bool isFloat = column != nullptr && column->type == ColumnType::Float32;
-            return {"\"" + name + "\"", isFloat ? Compared::In32Bits : Compared::AsItIs, true};
+            return {"\"" + name + "\"", ComparedAs(column), true};
         }
         default:
             tokens_.FailOnValue();
@@ -158,13 +157,20 @@ ExpressionTranslator::Part ExpressionTranslator::Total() {
     return {function + "(" + inner.sql + ")"};
 }
 
+ExpressionTranslator::Compared ExpressionTranslator::ComparedAs(const Column* column) {
+    if (column == nullptr) return Compared::AsItIs;
+    if (column->type == ColumnType::DateTime) return Compared::AsDate;
+    return column->type == ColumnType::Float32 ? Compared::In32Bits : Compared::AsItIs;
+}
+
 void ExpressionTranslator::MakeComparable(std::vector<Part>& parts) {
-    const bool in32Bits = std::any_of(parts.begin(), parts.end(),
-                                      [](const Part& part) { return part.compared == Compared::In32Bits; });
-    if (!in32Bits) return;
+    Compared compared = Compared::AsItIs;
+    for (const Part& part : parts) compared = std::max(compared, part.compared);
+    if (compared == Compared::AsItIs) return;
+    const std::string function = compared == Compared::AsDate ? "kalvane_date(" : "kalvane_float32(";
     for (Part& part : parts) {
-        const bool isSo = part.isColumn && part.compared == Compared::In32Bits;
-        if (!isSo) part.sql = "kalvane_float32(" + part.sql + ")";
+        const bool isSo = part.isColumn && part.compared == compared;
+        if (!isSo) part.sql = function + part.sql + ")";
     }
 }
 

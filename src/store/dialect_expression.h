@@ -6,7 +6,8 @@
 namespace kalvane {
 
 /// Translates the expressions of one statement. A comparison with a Float32 column, or with an expression
-/// over one, is made in 32 bits: a number such as 12345.67 then equals the column that holds it.
+/// over one, is made in 32 bits: a number such as 12345.67 then equals the column that holds it. One with a
+/// DateTime column takes a text for its date.
 class ExpressionTranslator {
   public:
     /// `table` is the one whose columns the expressions name; null when there is none. The parameters of the
@@ -23,7 +24,7 @@ class ExpressionTranslator {
     bool HasTotals() const { return hasTotals_; }
 
   private:
-    enum class Compared { AsItIs, In32Bits };
+    enum class Compared { AsItIs, AsDate, In32Bits };  // the greater one holds for both sides
 
     struct Part {
         std::string sql;
@@ -44,6 +45,7 @@ class ExpressionTranslator {
     Part Total();
     Part Parenthesis();
 
+    static Compared ComparedAs(const Column* column);
     /// Writes the parts of one comparison as they are to be compared.
     static void MakeComparable(std::vector<Part>& parts);
     static Part Joined(const Part& left, std::string_view operation, const Part& right);

@@ -9,6 +9,7 @@ namespace {
 struct ToText {
     std::string operator()(std::monostate) const { return {}; }
     std::string operator()(const std::string& text) const { return text; }
+    std::string operator()(Date date) const { return DateText(date); }
     template <typename Number>
     std::string operator()(Number number) const {
         return ShortText(number);
@@ -18,6 +19,7 @@ struct ToText {
 struct ToNumber {
     double operator()(std::monostate) const { throw NumericError::NullUse(); }
     double operator()(const std::string& text) const { return ParseNumber(text); }
+    double operator()(Date date) const { return date.serial; }
     template <typename Number>
     double operator()(Number number) const {
         return static_cast<double>(number);

@@ -41,6 +41,6 @@ const Table* FindTable(std::string_view name);
 const Column* FindColumn(const Table& table, std::string_view name);
 
 /// Version of the layout, kept in each store file.
-inline constexpr int kSchemaVersion = 1;
+inline constexpr int kSchemaVersion = 2;
 
 }  // namespace kalvane

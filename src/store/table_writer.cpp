@@ -15,6 +15,7 @@ EngineValue ToEngineValue(const FieldValue& value) {
     if (const auto* whole = std::get_if<std::int64_t>(&value.Get())) return *whole;
     if (const auto* single = std::get_if<float>(&value.Get())) return double{*single};
     if (const auto* real = std::get_if<double>(&value.Get())) return *real;
+    if (const auto* date = std::get_if<Date>(&value.Get())) return date->serial;
     if (const auto* text = std::get_if<std::string>(&value.Get())) return std::string_view(*text);
     return std::monostate{};
 }

@@ -9,6 +9,7 @@
 #include "platform/files.h"
 #include "store/dated_copies.h"
 #include "support/main_store.h"
+#include "support/raw_store.h"
 
 namespace kalvane::test {
 
@@ -119,6 +120,7 @@ class ReadOnlyFolder {
 };
 
 TEST_F(StartupTest, AReadOnlyFolderIsToldOnceAndCanBeLookedAt) {
+    RunRaw(file_, "PRAGMA user_version=1");  // of an older program, and it cannot be brought forward
     const ReadOnlyFolder readOnly(folder_.Path());
     InstanceLock lock(folder_.Path());
     EXPECT_TRUE(lock.Acquire());

@@ -100,7 +100,7 @@ TEST_F(BackupTest, WhatIsNoBackupChangesNothing) {
     WriteFileAtomically(folder_ / "letter.MBK", std::string(3000, 'x'));
     RunRaw(folder_ / "foreign.MBK", "CREATE TABLE t (a)");
     std::filesystem::copy_file(backup_, folder_ / "newer.MBK");
-    RunRaw(folder_ / "newer.MBK", "PRAGMA user_version=2");
+    RunRaw(folder_ / "newer.MBK", "PRAGMA user_version=" + std::to_string(kSchemaVersion + 1));
     for (const char* name : {"letter.MBK", "foreign.MBK", "newer.MBK", "none.MBK"}) {
         EXPECT_NE(Restore(folder_ / name), "") << name;
     }

@@ -8,6 +8,7 @@
 #include "numeric/error.h"
 #include "store/command_scope.h"
 #include "store/helpers.h"
+#include "store/table_writer.h"
 #include "support/main_store.h"
 
 namespace kalvane::test {
@@ -177,6 +178,49 @@ TEST_F(StoreTest, ConvertsByTheColumnsType) {
         EXPECT_EQ(refusal.find("数值超出范围") != std::string::npos, *stored == '\0') << refusal;
         EXPECT_EQ(Rows("Select 金额 from OutTJ"), stored) << written;
     }
+}
+
+TEST_F(StoreTest, KeepsDatesAsDaysAndComparesThem) {
+    CreateStore(folder_ / kStockStoreName, StoreKind::Stock);
+    store_ = std::make_unique<Connection>(folder_ / kStockStoreName, StoreKind::Stock);
+    const std::pair<const char*, const char*> kDates[] = {{"'2002-3-4'", "2002-03-04"},
+                                                          {"'2002年3月5日 8:00'", "2002-03-05 08:00:00"},
+                                                          {"37319", "2002-03-04"},
+                                                          {"37319+0.5", "2002-03-04 12:00:00"},
+                                                          {"Null", "~"},
+                                                          {"'不是日期'", ""},
+                                                          {"'2002'", ""},
+                                                          {"''", ""},
+                                                          {"3000000", ""}};  // beyond the year 9999
+    int number = 0;
+    for (const auto& [written, read] : kDates) {
+        const std::string id = std::to_string(++number);
+        const std::string refusal =
+            Refusal("Insert into 入库单 (单据编号,采购日期) values(" + id + "," + written + ")");
+        EXPECT_EQ(refusal.empty(), *read != '\0') << written << refusal;
+        EXPECT_EQ(Rows("Select 采购日期 from 入库单 where 单据编号=" + id), read) << written;
+    }
+    EXPECT_EQ(store_->OpenCursor("Select 采购日期 from 入库单").Field(0).Number(), 37319);
+    const std::pair<const char*, const char*> kConditions[] = {
+        {"采购日期=37319", "1\n3"},
+        {"采购日期='2002/3/4'", "1\n3"},
+        {"'2002-03-04 12:00'<=采购日期", "2\n4"},
+        {"采购日期 between '2002-3-4' and '2002-3-5'", "1\n3\n4"},
+        {"采购日期 in ('2002-3-5 08:00', 37319)", "1\n2\n3"},
+        {"采购日期+1>='2002-3-6'", "2"},
+        {"采购日期 is null", "5"},
+    };
+    for (const auto& [condition, numbers] : kConditions) {
+        EXPECT_EQ(Rows("Select 单据编号 from 入库单 where " + std::string(condition)), numbers) << condition;
+    }
+    EXPECT_EQ(Refusal("Delete * from 入库单 where 采购日期='昨天'"),
+              "“昨天”不是日期，日期应写成 2002-03-04。");
+
+    TableWriter writer(*store_, "出库单");
+    CopyTableRows(store_->OpenCursor("Select 单据编号,说明,说明,说明,采购日期 from 入库单"), writer);
+    EXPECT_EQ(Rows("Select 出库日期 from 出库单 where 单据编号<3"), "2002-03-04\n2002-03-05 08:00:00");
+    writer.AddRow(std::vector<FieldValue>{{}, {}, {}, {}, FieldValue(std::string("2002年3月6日"))});
+    EXPECT_EQ(Rows("Select 单据编号 from 出库单 where 出库日期=37321"), "~");
 }
 
 TEST_F(StoreTest, HelpersFollowTheRows) {

@@ -18,6 +18,7 @@ inline std::vector<FieldValue> SampleRow(const Table& table, int row) {
         switch (column.type) {
             case ColumnType::Int16:
             case ColumnType::Int32:
+            case ColumnType::DateTime:
                 values.emplace_back(number);
                 break;
             case ColumnType::Float32:
@@ -28,7 +29,6 @@ inline std::vector<FieldValue> SampleRow(const Table& table, int row) {
                 values.emplace_back("行一\n行二 'x' \"y\"; -- " + std::string(6000, '.'));
                 break;
             case ColumnType::Text:
-            case ColumnType::DateTime:
                 values.emplace_back("窗'" + std::to_string(row));
                 break;
         }
