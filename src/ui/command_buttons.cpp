@@ -68,9 +68,10 @@ void LayOutBesideButtons(QWidget* screen, QWidget* body,
     all->addLayout(column);
 }
 
-void PressOnKey(QWidget* list, int key, QPushButton* button) {
-    auto* shortcut = new QShortcut(QKeySequence(key), list);
-    shortcut->setContext(Qt::WidgetShortcut);
+void PressOnKeys(QWidget* widget, const QKeySequence& keys, QPushButton* button,
+                 Qt::ShortcutContext context) {
+    auto* shortcut = new QShortcut(keys, widget);
+    shortcut->setContext(context);
     QObject::connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
 }
 

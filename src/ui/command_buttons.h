@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QString>
 #include <initializer_list>
 
@@ -36,7 +37,9 @@ void LayOutBesideButtons(QWidget* screen, QWidget* body,
                          std::initializer_list<std::initializer_list<QPushButton*>> groups,
                          QPushButton* exit);
 
-/// Presses `button` when that key is hit while `list` has the focus.
-void PressOnKey(QWidget* list, int key, QPushButton* button);
+/// Presses `button` when those keys are hit while `widget` has the focus, or with the other context one of
+/// its children.
+void PressOnKeys(QWidget* widget, const QKeySequence& keys, QPushButton* button,
+                 Qt::ShortcutContext context = Qt::WidgetShortcut);
 
 }  // namespace kalvane

@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -28,6 +27,7 @@ namespace {
 
 constexpr QSize kFirstSize(980, 690);
 constexpr int kCoordinatesWidth = 140;
+
 }  // namespace
 
 FrmDraw::FrmDraw(QWidget* parent)
@@ -93,21 +93,11 @@ void FrmDraw::Connect() {
     connect(txtCommand_, &CommandBox::Entered, this,
             [this](const QString& text) { Do([&] { desk_.RunCommand(FromQt(text)); }); });
     connect(txtCommand_, &CommandBox::Escaped, this, [this] { Do([&] { desk_.Run(DeskCommand::Cancel); }); });
-    const auto undo = [this] { Do([&] { desk_.Undo(); }); };
-    const auto redo = [this] { Do([&] { desk_.Redo(); }); };
-    connect(buttons_, &DeskButtons::UndoAsked, this, undo);
-    connect(buttons_, &DeskButtons::RedoAsked, this, redo);
+    connect(buttons_, &DeskButtons::UndoAsked, this, [this] { Do([&] { desk_.Undo(); }); });
+    connect(buttons_, &DeskButtons::RedoAsked, this, [this] { Do([&] { desk_.Redo(); }); });
     connect(buttons_, &DeskButtons::OpenAsked, this, [this] { Do([&] { files_.ChooseToOpen(); }); });
     connect(buttons_, &DeskButtons::SaveAsked, this, [this] { Do([&] { files_.ChooseToSave(); }); });
     connect(buttons_, &DeskButtons::DxfAsked, this, [this] { Do([&] { files_.ChooseDxf(); }); });
-    const auto onKeys = [this](const char* keys, const auto& work) {
-        auto* shortcut = new QShortcut(QKeySequence(QLatin1String(keys)), this);
-        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, work);
-    };
-    onKeys("Ctrl+Z", undo);
-    onKeys("Ctrl+Y", redo);
-    onKeys("Ctrl+Shift+Z", redo);
     connect(recover_, &QPushButton::clicked, this, [this] { Do([&] { desk_.Recover(); }); });
 }
 

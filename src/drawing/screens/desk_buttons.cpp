@@ -48,6 +48,12 @@ void DeskButtons::AddEdits() {
                       QStringLiteral("撤销上一步（Ctrl+Z）"));
     redo_ = AddButton(&DeskButtons::RedoAsked, "CmdRedo", QStringLiteral("重做"), "desk_redo",
                       QStringLiteral("重做撤销的一步（Ctrl+Y）"));
+    // Wherever on the desk the focus is.
+    for (const auto& [keys, button] :
+         {std::pair("Ctrl+Z", undo_), {"Ctrl+Y", redo_}, {"Ctrl+Shift+Z", redo_}}) {
+        PressOnKeys(parentWidget(), QKeySequence(QLatin1String(keys)), button,
+                    Qt::WidgetWithChildrenShortcut);
+    }
     AddCommand(DeskCommand::New, "CmdRefresh", QStringLiteral("刷新(命令C)"), "desk_new",
                QStringLiteral("清空，开始新图（C）"));
     AddCommand(DeskCommand::Redraw, "CmdRdraw", QStringLiteral("重生成(命令Redraw)"), "desk_redraw",

@@ -51,7 +51,7 @@ frmOpenPicture::frmOpenPicture(QWidget* parent)
     rows->addLayout(ButtonRow({ok, del, cancel}));
     resize(kFirstSize);
 
-    PressOnKey(lvw_, Qt::Key_Delete, del);
+    PressOnKeys(lvw_, Qt::Key_Delete, del);
     OnSignal(lvw_, &ReportList::itemSelectionChanged, this, [this] { ShowSelected(); });
     OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Confirm(); });
     OnSignal(ok, &QPushButton::clicked, this, [this] { Confirm(); });

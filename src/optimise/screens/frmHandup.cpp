@@ -7,7 +7,6 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QShortcut>
 #include <QStatusBar>
 #include <QTime>
 #include <QVBoxLayout>
@@ -34,10 +33,6 @@ namespace {
 constexpr QSize kFirstSize(640, 560);
 const QString kFolderPurpose = QStringLiteral("demand");
 const QString kFileFilter = QStringLiteral("化数据文件*.DDD|*.DDD");
-
-QString Now() {
-    return QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
-}
 
 }  // namespace
 
@@ -66,8 +61,7 @@ frmHandup::frmHandup(QWidget* parent)
     auto* side = new QVBoxLayout;
     for (QPushButton* button : {remove, paste, open, save}) side->addWidget(button);
     side->addStretch();
-    side->addWidget(run);
-    side->addWidget(cancel);
+    for (QPushButton* button : {run, cancel}) side->addWidget(button);
     auto* list = new QVBoxLayout;
     list->addWidget(lvw_, 1);
     list->addWidget(total_);
@@ -77,27 +71,25 @@ frmHandup::frmHandup(QWidget* parent)
     auto* all = new QVBoxLayout(this);
     all->addWidget(entry_);
     all->addLayout(middle, 1);
-    all->addWidget(label4_);
-    all->addWidget(runPanel_);
-    all->addWidget(statusBar_);
+    for (QWidget* part : std::initializer_list<QWidget*>{label4_, runPanel_, statusBar_})
+        all->addWidget(part);
     resize(kFirstSize);
 
     EnterWalks(std::array{entry_->MaterialBox(), entry_->LengthBox(), entry_->CountBox()});
     EnterMovesTo(entry_->CountBox(), entry_->AddButton());
-    PressOnKey(lvw_, Qt::Key_Delete, remove);
-    auto* pasteKey = new QShortcut(QKeySequence(QKeySequence::Paste), lvw_);
-    pasteKey->setContext(Qt::WidgetShortcut);
+    PressOnKeys(lvw_, Qt::Key_Delete, remove);
+    PressOnKeys(lvw_, QKeySequence::Paste, paste);
     OnSignal(entry_, &PieceEntry::TablePasted, this, [this] { Paste(); });
-    OnSignal(pasteKey, &QShortcut::activated, this, [this] { Paste(); });
     OnSignal(entry_->AddButton(), &QPushButton::clicked, this, [this] { Add(); });
     OnSignal(remove, &QPushButton::clicked, this, [this] { Delete(); });
     OnSignal(paste, &QPushButton::clicked, this, [this] { Paste(); });
     OnSignal(open, &QPushButton::clicked, this, [this] { Open(); });
     OnSignal(save, &QPushButton::clicked, this, [this] { Save(); });
-    connect(run, &QPushButton::clicked, this, [this] {
+    const auto runGuarded = [this] {
         Guarded(
             this, [this] { Run(); }, QStringLiteral("出错"));
-    });
+    };
+    connect(run, &QPushButton::clicked, this, runGuarded);
     OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
     ShowTotal();
 }
@@ -111,8 +103,7 @@ void frmHandup::Add() {
     const ManualRow row = entry_->Row();
     if (const auto failure = CheckManualRow(row, App().optimise)) {
         UseDialogs().Message(this, ToQt(failure->message), PromptTitle(), failure->icon);
-        const bool isLength = failure->field == ManualRowFailure::Field::Length;
-        (isLength ? entry_->LengthBox() : entry_->CountBox())->setFocus();
+        entry_->FocusOn(failure->field);
         return;
     }
     AddRows({row});
@@ -120,8 +111,7 @@ void frmHandup::Add() {
 }
 
 void frmHandup::Delete() {
-    const int row = lvw_->SelectedOrTell(QStringLiteral("无删除数据！"));
-    if (row < 0) return;
+    if (lvw_->SelectedOrTell(QStringLiteral("无删除数据！")) < 0) return;
     const std::vector<int> rows = lvw_->SelectedRows();
     for (auto doomed = rows.rbegin(); doomed != rows.rend(); ++doomed) lvw_->RemoveRow(*doomed);
     ShowTotal();
@@ -140,10 +130,10 @@ void frmHandup::Paste() {
 
 void frmHandup::Open() {
     const QString file = UseDialogs().OpenFileName(this, kFolderPurpose, kFileFilter);
-    if (file.isEmpty()) return;
     std::vector<ManualRow> rows;
-    const auto read = [&] { ReadDemandFile(FromQt(file), rows); };
-    Guarded(this, read, PromptTitle());
+    if (file.isEmpty()) return;
+    Guarded(
+        this, [&] { ReadDemandFile(FromQt(file), rows); }, PromptTitle());
     AddRows(rows);  // also those before a place where the file is damaged
 }
 
@@ -161,8 +151,9 @@ void frmHandup::Run() {
     }
     const std::vector<ManualRow> rows = Rows();
     if (rows.empty()) return Tell(this, QStringLiteral("优化的数据不能为空！"));
+    const auto now = [] { return QTime::currentTime().toString(QStringLiteral("HH:mm:ss")); };
     label4_->setText(QStringLiteral("稍候优化正在进行中......"));
-    const QString start = QStringLiteral("起始时间：") + Now();
+    const QString start = QStringLiteral("起始时间：") + now();
     {
         const Shown shown(label4_);
         statusBar_->showMessage(start);
@@ -177,7 +168,7 @@ void frmHandup::Run() {
                 runPanel_->Bar().setValue(stage.placed);
                 return QStringLiteral("已排 %1 / %2 件").arg(stage.placed).arg(stage.pieces);
             });
-        statusBar_->showMessage(start + QStringLiteral(" 结束时间：") + Now());
+        statusBar_->showMessage(start + QStringLiteral(" 结束时间：") + now());
     }
     frmResult(this).exec();
 }

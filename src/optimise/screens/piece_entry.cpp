@@ -67,6 +67,10 @@ void PieceEntry::StartRow() {
     txtCD_->setFocus();
 }
 
+void PieceEntry::FocusOn(ManualRowFailure::Field field) {
+    (field == ManualRowFailure::Field::Length ? txtCD_ : txtSL_)->setFocus();
+}
+
 bool PieceEntry::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
     const bool pastes = static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste);

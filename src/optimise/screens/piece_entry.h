@@ -22,6 +22,8 @@ class PieceEntry : public QWidget {
     ManualRow Row() const;
     /// Empties the row for the next pieces.
     void StartRow();
+    /// Leads to the box of a refused row.
+    void FocusOn(ManualRowFailure::Field field);
 
     QLineEdit* MaterialBox() const { return txtName_; }
     QLineEdit* LengthBox() const { return txtCD_; }

@@ -53,9 +53,9 @@ frmMCGCGL::frmMCGCGL(ProjectRoads roads, QWidget* parent)
     LayOutBesideButtons(this, lvw_, {{add, edit, del, open, contract, copy}}, exit);
     resize(kFirstSize);
 
-    PressOnKey(lvw_, Qt::Key_Insert, add);
-    PressOnKey(lvw_, Qt::Key_F2, edit);
-    PressOnKey(lvw_, Qt::Key_Delete, del);
+    PressOnKeys(lvw_, Qt::Key_Insert, add);
+    PressOnKeys(lvw_, Qt::Key_F2, edit);
+    PressOnKeys(lvw_, Qt::Key_Delete, del);
     OnSignal(add, &QPushButton::clicked, this, [this] { Add(); });
     OnSignal(edit, &QPushButton::clicked, this, [this] { Edit(); });
     OnSignal(del, &QPushButton::clicked, this, [this] { Delete(); });

@@ -45,8 +45,8 @@ frmOpenGC::frmOpenGC(ProjectRoads roads, QWidget* parent)
     LayOutBesideButtons(this, lvw_, {{add, composite, edit, del}, {number, sheets, totals, optimise}}, exit);
     resize(kFirstSize);
 
-    PressOnKey(lvw_, Qt::Key_Insert, add);
-    PressOnKey(lvw_, Qt::Key_Delete, del);
+    PressOnKeys(lvw_, Qt::Key_Insert, add);
+    PressOnKeys(lvw_, Qt::Key_Delete, del);
     OnSignal(add, &QPushButton::clicked, this, [this] { Add(); });
     OnSignal(edit, &QPushButton::clicked, this, [this] { Edit(); });
     OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Edit(); });
