@@ -18,6 +18,7 @@ Report dsYHB(Connection& connection, std::string_view projectName) {
     Report report;
     report.title = "材料优化表";
     report.heading = {{"工程名称：" + std::string(projectName)}};
+    report.repeated = report.heading;
     report.columns = {{"材料名称", 20},
                       {"切割规格", 32},
                       {"数量", 7, ReportAlign::Right},
@@ -32,6 +33,7 @@ Report dsYHBT(Connection& connection, std::string_view projectName) {
     Report report;
     report.title = "材料优化统计表";
     report.heading = {{"工程名名称：" + std::string(projectName)}};
+    report.repeated = report.heading;
     report.columns = {{"材料名称", 35},
                       {"数  量", 15, ReportAlign::Right},
                       {"总体优化率", 25, ReportAlign::Right},

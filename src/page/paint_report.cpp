@@ -171,7 +171,8 @@ struct Placed {
 /// Distributes bands to pages.
 class Flow {
   public:
-    explicit Flow(float height) : height_(height) {}
+    /// `opening` begins each further page.
+    Flow(float height, std::vector<Band> opening) : height_(height), opening_(std::move(opening)) {}
 
     /// Begins a page unless the next bands of that height in all have room on this one.
     void KeepTogether(float height) {
@@ -182,13 +183,15 @@ class Flow {
 
     /// Adds a band; `head`, if any, opens each page that is begun for it.
     void Add(Band band, const Band* head = nullptr) {
-        const float start = head != nullptr ? head->height : 0;  // of a fresh page
+        const float headHeight = head != nullptr ? head->height : 0;
+        float start = headHeight;  // of a further page
+        for (const Band& line : opening_) start += line.height;
         for (;;) {
             if (y_ + band.height <= height_) {
                 Place(std::move(band));
                 return;
             }
-            const bool isFresh = y_ <= start;
+            const bool isFresh = y_ <= std::max(freshY_, headHeight);
             if (!isFresh && start + band.height <= height_) {
                 NewPage(head);
                 continue;
@@ -217,11 +220,15 @@ class Flow {
     void NewPage(const Band* head) {
         pages_.emplace_back();
         y_ = 0;
+        for (const Band& line : opening_) Place(line);
         if (head != nullptr) Place(*head);
+        freshY_ = y_;
     }
 
     float height_;
+    std::vector<Band> opening_;
     float y_ = 0;
+    float freshY_ = 0;  ///< where the page's own content begins
     std::vector<std::vector<Placed>> pages_ = std::vector<std::vector<Placed>>(1);
 };
 
@@ -272,7 +279,9 @@ void PaintFoot(PageTarget& page, const std::string& title, std::size_t number, s
 
 void PaintReport(PageTarget& page, const Report& report) {
     BandMaker maker(page, report.columns);
-    Flow flow(page.Height() - kFootHeight);
+    std::vector<Band> opening;
+    for (const ReportLine& line : report.repeated) opening.push_back(maker.Line(line));
+    Flow flow(page.Height() - kFootHeight, std::move(opening));
     if (!report.title.empty()) flow.Add(maker.Title(report.title));
     for (const ReportLine& line : report.heading) flow.Add(maker.Line(line));
     if (!report.columns.empty()) {

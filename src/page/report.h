@@ -23,6 +23,8 @@ using ReportLine = std::vector<std::string>;
 struct Report {
     std::string title;
     std::vector<ReportLine> heading;
+    /// Opens each further page: what a loose sheet must say of itself, such as the project.
+    std::vector<ReportLine> repeated;
     std::vector<ReportColumn> columns;
     /// As many texts in each as there are columns. Long texts wrap in their cell.
     std::vector<std::vector<std::string>> rows;

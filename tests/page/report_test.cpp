@@ -116,6 +116,19 @@ TEST_F(ReportTest, RowsGoOnUnderTheirHeads) {
     }
 }
 
+TEST_F(ReportTest, EachFurtherPageOpensWithWhatIsRepeated) {
+    // A line of 370 and the heads of 325 leave 2855 of 3550 for 8 rows; the first page has 9.
+    for (const auto& [rows, count] : {std::pair(17, 2U), {18, 3U}}) {
+        Report report = Table(rows);
+        report.repeated = {{"工程：甲"}};
+        const auto pages = Print(report, 8000, 4000);
+        ASSERT_EQ(pages.size(), count);
+        EXPECT_EQ(Count(pages[0], " 料"), 9);
+        EXPECT_EQ(Count(pages[1], " 料"), 8);
+        for (std::size_t i = 0; i < count; ++i) EXPECT_EQ(Count(pages[i], " 工程：甲"), i == 0 ? 0 : 1);
+    }
+}
+
 TEST_F(ReportTest, ARowIsDividedOnlyWhenNoPageHoldsIt) {
     Report report = Table(8);
     report.rows.push_back({"9", "一\n二\n三"});  // 775 high where 625 are left
