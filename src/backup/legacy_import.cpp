@@ -20,6 +20,7 @@ constexpr std::string_view kWindowTypes = "门窗";
 /// The fields of the current row.
 std::vector<FieldValue> RowOf(const Cursor& row) {
     std::vector<FieldValue> values;
+    values.reserve(static_cast<std::size_t>(row.FieldCount()));
     for (int i = 0; i < row.FieldCount(); ++i) values.push_back(row.Field(i));
     return values;
 }
