@@ -10,6 +10,8 @@
 #include "page/page_record.h"
 #include "ui/painter_target.h"
 
+class QPagedPaintDevice;
+
 namespace kalvane {
 
 /// The sheet a document is made for. The margins, in millimetres, bound the printable area, whatever the
