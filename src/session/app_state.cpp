@@ -21,4 +21,9 @@ AppState& App() {
     return state;
 }
 
+FieldSlots& SharedFieldSlots() {
+    static FieldSlots slots;
+    return slots;
+}
+
 }  // namespace kalvane

@@ -7,6 +7,7 @@
 
 #include "session/optimise_settings.h"
 #include "store/connection.h"
+#include "store/field_slots.h"
 
 namespace kalvane {
 
@@ -45,5 +46,8 @@ struct AppState {
 
 /// The record all screens share.
 AppState& App();
+
+/// The slots all screens share.
+FieldSlots& SharedFieldSlots();
 
 }  // namespace kalvane

@@ -23,9 +23,6 @@ class AccountsTest : public ScreenTest {
             Find<QCheckBox>(&screen, qPrintable(QStringLiteral("chkAuth(%1)").arg(right)))->click();
         }
     }
-    QStringList Told(const char* text, const char* title = "提示") {
-        return {QString::fromUtf8(title) + QLatin1Char('|') + QString::fromUtf8(text)};
-    }
 };
 
 TEST_F(AccountsTest, AUserComesChangesAndGoes) {
@@ -38,15 +35,15 @@ TEST_F(AccountsTest, AUserComesChangesAndGoes) {
 
                 Press(screen, "cmdOpr(0)");
                 Press(screen, "cmdOpr(3)");
-                EXPECT_EQ(dialogs_.TakeShown(), Told("用户名不能为空！"));
+                EXPECT_EQ(dialogs_.TakeShown(), "提示|用户名不能为空！");
                 SetText(screen, "txtUsrNm", "张三");
                 Press(screen, "cmdOpr(3)");
-                EXPECT_EQ(dialogs_.TakeShown(), Told("用户名密码不能为空！"));
+                EXPECT_EQ(dialogs_.TakeShown(), "提示|用户名密码不能为空！");
                 SetText(screen, "txtUsrPwd", "ab12");
                 Tick(screen, {3, 4, 11});
                 Press(screen, "cmdOpr(3)");
                 EXPECT_EQ(RightsOf("张三", "ab12"), "000110000001");
-                EXPECT_EQ(list->Text(list->SelectedRow(), 0), QStringLiteral("张三"));
+                EXPECT_EQ(list->Text(list->SelectedRow(), 0), "张三");
 
                 // The password cannot be changed here, and shows as what is stored.
                 Press(screen, "cmdOpr(1)");
@@ -60,9 +57,9 @@ TEST_F(AccountsTest, AUserComesChangesAndGoes) {
                 SetText(screen, "txtUsrNm", "张三");
                 SetText(screen, "txtUsrPwd", "other");
                 Press(screen, "cmdOpr(3)");
-                EXPECT_EQ(dialogs_.TakeShown(), Told("用户名已存在，不能添加重复的项！", "提示！"));
+                EXPECT_EQ(dialogs_.TakeShown(), "提示！|用户名已存在，不能添加重复的项！");
                 Press(screen, "cmdOpr(4)");
-                EXPECT_EQ(TextIn(screen, "txtUsrNm"), QStringLiteral("张三"));
+                EXPECT_EQ(TextIn(screen, "txtUsrNm"), "张三");
                 EXPECT_EQ(list->RowCount(), 3);
 
                 dialogs_.answers = {false, true};
@@ -70,16 +67,16 @@ TEST_F(AccountsTest, AUserComesChangesAndGoes) {
                 EXPECT_EQ(RightsOf("张三", "ab12"), "100110000000");
                 Press(screen, "cmdOpr(2)");
                 EXPECT_EQ(dialogs_.TakeShown(),
-                          Told("确认要删除该用户吗？张三") + Told("确认要删除该用户吗？张三"));
+                          "提示|确认要删除该用户吗？张三\n提示|确认要删除该用户吗？张三");
                 EXPECT_EQ(RightsOf("张三", "ab12"), "");
 
                 list->SelectRow(0);
                 Press(screen, "cmdOpr(2)");
-                EXPECT_EQ(dialogs_.TakeShown(), Told("系统管理员不能删除！"));
+                EXPECT_EQ(dialogs_.TakeShown(), "提示|系统管理员不能删除！");
                 list->setCurrentItem(nullptr);
                 list->clearSelection();
                 Press(screen, "cmdOpr(2)");
-                EXPECT_EQ(dialogs_.TakeShown(), Told("请选择要删除的用户！"));
+                EXPECT_EQ(dialogs_.TakeShown(), "提示|请选择要删除的用户！");
             })
         .Run([] { frmUserMng().exec(); });
 }
@@ -90,7 +87,7 @@ TEST_F(AccountsTest, APasswordChangesForTheNextLogin) {
     ASSERT_TRUE(LogIn(App(), users, "Admin", "admin888"));
     const struct {
         const char* boxes[3];
-        const char* told;
+        const char* shown;
     } tries[] = {
         {{"", "n", "n"}, "原密码不能为空！"},
         {{"admin888", "", "n"}, "新密码不能为空！"},
@@ -106,7 +103,7 @@ TEST_F(AccountsTest, APasswordChangesForTheNextLogin) {
         SetText(screen, "txtPwd(1)", attempt.boxes[1]);
         SetText(screen, "txtPwd(2)", attempt.boxes[2]);
         Press(screen, "OKButton");
-        EXPECT_EQ(dialogs_.TakeShown(), Told(attempt.told, "提示！"));
+        EXPECT_EQ(dialogs_.TakeShown(), QStringLiteral("提示！|") + attempt.shown);
     }
     EXPECT_EQ(RightsOf("Admin", "admin888"), "");
     EXPECT_NE(RightsOf("Admin", "new1"), "");
@@ -130,8 +127,8 @@ TEST_F(AccountsTest, SettingsKeepTheirDefaultsApart) {
     EXPECT_EQ(App().windCheckOption, 1);
 
     frmSetting second;
-    EXPECT_EQ(TextIn(second, "txtCompany"), QStringLiteral("凯窗门窗厂"));
-    EXPECT_EQ(TextIn(second, "txtCkPath"), QStringLiteral("别处"));
+    EXPECT_EQ(TextIn(second, "txtCompany"), "凯窗门窗厂");
+    EXPECT_EQ(TextIn(second, "txtCkPath"), "别处");
     EXPECT_TRUE(Find<QRadioButton>(&second, "optEasy")->isChecked());
     SetText(second, "txtCompany", "不要");
     Press(second, "cmdCancel");

@@ -35,10 +35,8 @@ TEST_F(BackupFlow, TheStoreIsThrownAwayAndEverythingComesBack) {
                 })
             .Run([&] { Press(tools, "CmdBackup"); });
     }
-    EXPECT_EQ(dialogs_.TakeShown(),
-              QStringList({QStringLiteral("提示|文件名不能为空！"), QStringLiteral("提示|路径不能为空！"),
-                           QStringLiteral("提示|已备份完毕！")}));
-    EXPECT_EQ(Remembered(QStringLiteral("backup.folder"), {}), InFolder("盘"));
+    EXPECT_EQ(dialogs_.TakeShown(), "提示|文件名不能为空！\n提示|路径不能为空！\n提示|已备份完毕！");
+    EXPECT_EQ(Remembered("backup.folder", {}), InFolder("盘"));
 
     App().mainConnection.reset();
     std::filesystem::remove(folder_ / kMainStoreName);
@@ -56,7 +54,7 @@ TEST_F(BackupFlow, TheStoreIsThrownAwayAndEverythingComesBack) {
                 EXPECT_TRUE(dialogs_.shown.isEmpty());
                 Press(screen, "CmdRestore");
                 EXPECT_EQ(Projects(), before);
-                EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|数据恢复完毕！")));
+                EXPECT_EQ(dialogs_.TakeShown(), "提示|数据恢复完毕！");
                 dialogs_.answers = {true};
                 Press(screen, "CmdRestore");  // a store, but not this one: the copy is put back
                 EXPECT_EQ(Projects(), before);
@@ -64,7 +62,7 @@ TEST_F(BackupFlow, TheStoreIsThrownAwayAndEverythingComesBack) {
                 EXPECT_FALSE(Find<QProgressBar>(&screen, "ProgressBar")->isVisible());
             })
         .Run([&] { Find<QAction>(&frame, "x6")->trigger(); });
-    EXPECT_EQ(dialogs_.filters.back(), QStringLiteral("打开数据库(*.MBK)|*.MBK"));
+    EXPECT_EQ(dialogs_.filters.back(), "打开数据库(*.MBK)|*.MBK");
 }
 
 TEST_F(BackupFlow, TheDriveMovesTheFolderAndAFailureKeepsTheScreen) {
@@ -73,7 +71,7 @@ TEST_F(BackupFlow, TheDriveMovesTheFolderAndAFailureKeepsTheScreen) {
     screen.show();
     auto* folder = Find<FolderTree>(&screen, "Dir1");
     auto* drive = Find<QComboBox>(&screen, "Drive1");
-    EXPECT_EQ(folder->Folder(), QStringLiteral("/usr/share"));
+    EXPECT_EQ(folder->Folder(), "/usr/share");
     drive->setCurrentIndex(drive->findData(QDir::rootPath()));
     Q_EMIT drive->activated(drive->currentIndex());
     EXPECT_EQ(folder->Folder(), QDir::rootPath());

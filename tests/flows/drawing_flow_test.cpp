@@ -57,7 +57,7 @@ TEST_F(DrawingFlow, ATwoLeafSlidingWindowIsDrawnInUnderFortyActions) {
         .Run([this] { Press("CmdSaveEx"); });
     EXPECT_LT(actions_, 40);
     EXPECT_TRUE(dialogs_.shown.isEmpty());
-    EXPECT_EQ(screen_->windowTitle(), QStringLiteral("文件->两扇推拉窗"));
+    EXPECT_EQ(screen_->windowTitle(), "文件->两扇推拉窗");
     EXPECT_EQ(SharedFieldSlots()[0] + "|" + SharedFieldSlots()[1], number + "|两扇推拉窗");
     EXPECT_EQ(Rows("Select 图名 from 图 where 编号=" + number), "两扇推拉窗");
     // Columns 16, 64 and 12 are at 1899, 7596 and 1424 units, rows 12, 52 and 8 at 1488, 6447 and 992.
@@ -70,7 +70,7 @@ TEST_F(DrawingFlow, ATwoLeafSlidingWindowIsDrawnInUnderFortyActions) {
             [&](QDialog& open) {
                 auto* lvw = Find<ReportList>(&open, "lvw");
                 const int last = lvw->RowCount() - 1;
-                EXPECT_EQ(lvw->Text(last, 0), QStringLiteral("两扇推拉窗"));
+                EXPECT_EQ(lvw->Text(last, 0), "两扇推拉窗");
                 auto* preview = Find<PictureBox>(&open, "PicMC");
                 const QImage empty = preview->grab().toImage();
                 lvw->SelectRow(last);
@@ -113,9 +113,8 @@ TEST_F(DrawingFlow, EveryDrawingOfTheLibraryComesThroughTheDeskUnchanged) {
         Press("CmdOpen");
         EXPECT_EQ(Items(), items);
     }
-    EXPECT_TRUE(std::none_of(dialogs_.shown.begin(), dialogs_.shown.end(), [](const QString& text) {
-        return !text.startsWith(QStringLiteral("保存文件|"));
-    }));
+    EXPECT_TRUE(std::none_of(dialogs_.shown.begin(), dialogs_.shown.end(),
+                             [](const QString& text) { return !text.startsWith("保存文件|"); }));
     EXPECT_EQ(ListDrawings(App().Main()).size(), drawings.size());
 }
 
@@ -129,7 +128,7 @@ TEST_F(DrawingFlow, TheMainScreenOpensOneDeskAndEndsWithItsDrawingKept) {
         for (int i = 0; i < 2; ++i) Find<QAction>(&frame, "mnuDrawPicture")->trigger();
         const QList<FrmDraw*> desks = frame.findChildren<FrmDraw*>();
         ASSERT_EQ(desks.size(), 1);
-        QTest::keyClicks(Find<QLineEdit>(desks[0], "TxtCommand"), QStringLiteral("r 0,0 16,16 "));
+        QTest::keyClicks(Find<QLineEdit>(desks[0], "TxtCommand"), "r 0,0 16,16 ");
         frame.close();
     }
     Reopen();

@@ -32,32 +32,30 @@ TEST_F(ManualPlanFlow, ATypedListIsKeptInAFileAndChecked) {
     frmHandup screen(nullptr);
     screen.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&screen));
-    EXPECT_EQ(screen.windowTitle(), QStringLiteral("手工优化  控制结点数：20"));
+    EXPECT_EQ(screen.windowTitle(), "手工优化  控制结点数：20");
     for (const char* button : {"CmdDel", "CmdSave", "OKButton"}) Press(screen, button);
     SetText(screen, "TxtName", "PK60");
     Press(screen, "OKButton");
-    EXPECT_EQ(dialogs_.TakeShown(),
-              QStringList({QStringLiteral("提示|无删除数据！"), QStringLiteral("提示|数据为空不能保存！"),
-                           QStringLiteral("提示|材料名称不能为空！"),
-                           QStringLiteral("提示|优化的数据不能为空！")}));
+    EXPECT_EQ(
+        dialogs_.TakeShown(),
+        "提示|无删除数据！\n提示|数据为空不能保存！\n提示|材料名称不能为空！\n提示|优化的数据不能为空！");
 
     // Length, Enter, count, Enter, and Enter on the button; what is no digit is not taken.
     Find<QLineEdit>(&screen, "TxtCD")->setFocus();
     Type(screen, "20x00\n3-\n\n1500.\n4\n\n\n");
     EXPECT_EQ(Table(screen, "lvw"), "2000|3\n1500.|4");
-    EXPECT_EQ(screen.focusWidget()->objectName(), QStringLiteral("TxtSL"));
+    EXPECT_EQ(screen.focusWidget()->objectName(), "TxtSL");
     Press(screen, "CmdAdd");  // no length
     Type(screen, "6000\n1\n\n");
-    EXPECT_EQ(dialogs_.TakeShown(),
-              QStringList({QStringLiteral("提示|数据不能为空！"), QStringLiteral("提示|数据大于6000！")}));
+    EXPECT_EQ(dialogs_.TakeShown(), "提示|数据不能为空！\n提示|数据大于6000！");
     EXPECT_EQ(dialogs_.icons.back(), NoticeIcon::Error);
-    EXPECT_EQ(screen.focusWidget()->objectName(), QStringLiteral("TxtCD"));
+    EXPECT_EQ(screen.focusWidget()->objectName(), "TxtCD");
 
     dialogs_.files = {QString(), InFolder("a.DDD"), QString(), InFolder("a.DDD")};
     for (const char* button : {"CmdSave", "CmdSave", "CmdOpen", "CmdOpen"}) Press(screen, button);
     EXPECT_EQ(ReadFile(folder_ / "a.DDD"), "2000\r\n3\r\n1500.\r\n4\r\n");
     EXPECT_EQ(Table(screen, "lvw"), "2000|3\n1500.|4\n2000|3\n1500.|4");
-    EXPECT_EQ(dialogs_.filters, QStringList(4, QStringLiteral("化数据文件*.DDD|*.DDD")));
+    EXPECT_EQ(dialogs_.filters, QStringList(4, "化数据文件*.DDD|*.DDD"));
     Find<ReportList>(&screen, "lvw")->SelectRow(0);
     Find<ReportList>(&screen, "lvw")->setFocus();
     QTest::keyClick(Find<ReportList>(&screen, "lvw"), Qt::Key_Delete);
@@ -68,13 +66,13 @@ TEST_F(ManualPlanFlow, ATypedListIsKeptInAFileAndChecked) {
     WriteFileAtomically(folder_ / "b.DDD", "800\n5\n700\n");
     dialogs_.files = {InFolder("b.DDD")};
     Press(screen, "CmdOpen");
-    QGuiApplication::clipboard()->setText(QStringLiteral("长度\t数量\n９00\t6\n7000\t1\n"));
+    QGuiApplication::clipboard()->setText("长度\t数量\n９00\t6\n7000\t1\n");
     QTest::keyClick(Find<QLineEdit>(&screen, "TxtCD"), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(Table(screen, "lvw"), "2000|3\n1500.|4\n800|5\n900|6");
     ASSERT_EQ(dialogs_.shown.size(), 2);
-    EXPECT_TRUE(dialogs_.shown[0].endsWith(QStringLiteral("第 3 行：长度“700”后缺少数量")));
-    EXPECT_TRUE(dialogs_.shown[1].endsWith(QStringLiteral("第 3 行：长度“7000”：数据大于6000！")));
-    EXPECT_EQ(TextIn(screen, "TxtCD"), QStringLiteral("6000"));  // as it was
+    EXPECT_TRUE(dialogs_.shown[0].endsWith("第 3 行：长度“700”后缺少数量"));
+    EXPECT_TRUE(dialogs_.shown[1].endsWith("第 3 行：长度“7000”：数据大于6000！"));
+    EXPECT_EQ(TextIn(screen, "TxtCD"), "6000");  // as it was
 }
 
 TEST_F(ManualPlanFlow, FromTheListToBarsLabelsAndTables) {
@@ -91,7 +89,7 @@ TEST_F(ManualPlanFlow, FromTheListToBarsLabelsAndTables) {
         App().YHScheme = c.scheme;
         frmHandup screen(nullptr);
         screen.show();
-        QGuiApplication::clipboard()->setText(QStringLiteral("2000,3\n1500,4\n800,5\n"));
+        QGuiApplication::clipboard()->setText("2000,3\n1500,4\n800,5\n");
         Press(screen, "CmdPaste");
         SetText(screen, "TxtName", "PK60");
         dialogs_.files = {InFolder("bars.pdf"), InFolder("labels.pdf")};
@@ -99,10 +97,10 @@ TEST_F(ManualPlanFlow, FromTheListToBarsLabelsAndTables) {
             .On("frmResult",
                 [&](QDialog& result) {
                     EXPECT_EQ(Table(result, "Lvw1"), std::string("PK60|") + c.cuts);
-                    QTRY_VERIFY(!Find<ReportList>(&result, "Lvw2")->Text(0, 5).contains(QStringLiteral("…")));
+                    QTRY_VERIFY(!Find<ReportList>(&result, "Lvw2")->Text(0, 5).contains("…"));
                     const QStringList totals = Find<ReportList>(&result, "Lvw2")->Row(0);
                     EXPECT_TRUE(totals[2].startsWith(QLatin1String(c.ratio))) << totals[2].toStdString();
-                    EXPECT_EQ(totals.mid(3).join(QLatin1Char('|')), QStringLiteral("3|16.24|3"));
+                    EXPECT_EQ(totals.mid(3).join(QLatin1Char('|')), "3|16.24|3");
                     Find<QTabWidget>(&result, "Tab1")->setCurrentIndex(2);
                     const QImage bars = Find<QWidget>(&result, "PicCut")->grab().toImage();
                     QSet<QRgb> colours;
@@ -153,7 +151,7 @@ TEST_F(ManualPlanFlow, ALongRunLeavesTheScreenAliveAndIsCancelled) {
             last = WorkedMilliseconds();
             if (++looks == 3) {
                 EXPECT_TRUE(Find<QLabel>(&screen, "Label4")->isVisible());
-                EXPECT_TRUE(Find<QLabel>(&screen, "LblState")->text().contains(QStringLiteral("用时 00:0")));
+                EXPECT_TRUE(Find<QLabel>(&screen, "LblState")->text().contains("用时 00:0"));
                 EXPECT_FALSE(Find<QPushButton>(&screen, "OKButton")->isEnabled());
                 Find<QPushButton>(&screen, "OKButton")->clicked();  // even so no second run is started
             }
@@ -174,9 +172,8 @@ TEST_F(ManualPlanFlow, ALongRunLeavesTheScreenAliveAndIsCancelled) {
             .Run([&] { Press(screen, "OKButton"); });
         EXPECT_GE(looks, 6);
         EXPECT_LT(longestGap, 100);
-        EXPECT_EQ(
-            dialogs_.TakeShown(),
-            QStringList(QStringLiteral("提示|优化已取消，已排好的 %1 根材料保留在优化结果中。").arg(bars)));
+        EXPECT_EQ(dialogs_.TakeShown(),
+                  QStringLiteral("提示|优化已取消，已排好的 %1 根材料保留在优化结果中。").arg(bars));
         EXPECT_TRUE(Find<QPushButton>(&screen, "OKButton")->isEnabled());
         EXPECT_FALSE(Find<QProgressBar>(&screen, "ProgressBar")->isVisible());
     }

@@ -63,7 +63,7 @@ TEST_F(PlanFlow, FromTheModuleToThePlan) {
                 [&](QDialog& step) {
                     Deselect(step, "LVW");
                     Press(step, "CmdNext");
-                    EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|无选择的工程")));
+                    EXPECT_EQ(dialogs_.TakeShown(), "提示|无选择的工程");
                     Find<ReportList>(&step, "LVW")->SelectRow(1);
                     Press(step, "CmdNext");
                 })
@@ -71,9 +71,8 @@ TEST_F(PlanFlow, FromTheModuleToThePlan) {
                 [&](QDialog& step) {
                     Deselect(step, "LvwR");
                     for (const char* button : {"CmdMove", "CmdRemove", "CmdNext"}) Press(step, button);
-                    EXPECT_EQ(dialogs_.TakeShown(), QStringList({QStringLiteral("提示|无选择移动对象"),
-                                                                 QStringLiteral("提示|无选择移除对象"),
-                                                                 QStringLiteral("提示|无选择所需优化门窗")}));
+                    EXPECT_EQ(dialogs_.TakeShown(),
+                              "提示|无选择移动对象\n提示|无选择移除对象\n提示|无选择所需优化门窗");
                     Press(step, "CmdMoveAll");
                     EXPECT_EQ(Table(step, "LvwD"), "C1|||2|1|50");
                     Press(step, "CmdNext");
@@ -83,7 +82,7 @@ TEST_F(PlanFlow, FromTheModuleToThePlan) {
                     EXPECT_EQ(Table(step, "LvwR"), "GK-35x28\nPK60-02\nPK60-08");
                     Press(step, "CmdMoveAll");
                     Press(step, "CmdRemoveAll");
-                    Choose(step, QStringLiteral("PK60-08"));
+                    Choose(step, "PK60-08");
                     Press(step, "CmdNext");
                     const auto* bar = Find<QProgressBar>(&step, "ProgressBar");
                     EXPECT_EQ(bar->maximum(), 2);
@@ -112,13 +111,13 @@ TEST_F(PlanFlow, FromAnOpenProjectToTheOutputs) {
         .On("frmCreate02",
             [](QDialog& step) {
                 EXPECT_EQ(App().YHScheme, 0);
-                Choose(step, QStringLiteral("C1"));
+                Choose(step, "C1");
                 Press(step, "CmdNext");
             })
         .On("frmCreate03",
             [](QDialog& step) {
                 Press(step, "CmdNext");  // with no material: empty tables
-                Choose(step, QStringLiteral("PK60-08"));
+                Choose(step, "PK60-08");
                 Press(step, "CmdNext");
             })
         .On("frmResult", [](QDialog& result) { EXPECT_EQ(Table(result, "Lvw1"), ""); })
@@ -135,21 +134,18 @@ TEST_F(PlanFlow, FromAnOpenProjectToTheOutputs) {
         .On("frmPreview", savePdf)
         .On("frmPreview", savePdf)
         .Run([&] { Press(*opened, "cmdYH"); });
-    EXPECT_EQ(dialogs_.filters.mid(1, 2),
-              QStringList({QStringLiteral("*.txt|*.txt"), QStringLiteral("Excel 工作簿|*.xlsx")}));
+    EXPECT_EQ(dialogs_.filters.mid(1, 2), QStringList({"*.txt|*.txt", "Excel 工作簿|*.xlsx"}));
     const std::string written = ReadFile(folder_ / "plan.txt");
     EXPECT_NE(written.find("\tPK60-08\t1120*4+920\t1\t0.9166667\t500"), std::string::npos) << written;
     EXPECT_NE(written.find("工程名称：阳光花园"), std::string::npos);
     EXPECT_EQ(ReadFile(folder_ / "plan.xlsx").substr(0, 4), "PK\x03\x04");  // a zip, as .xlsx is
     for (const char* pdf : {"cuts.pdf", "totals.pdf"}) EXPECT_GT(ReadFile(folder_ / pdf).size(), 5000U);
     // No desktop here to open it with: the operator hears of that and of where the file is.
-    const QString saved = QStringLiteral("提示|已保存到：");
-    EXPECT_EQ(dialogs_.shown,
-              QStringList({saved + InFolder("plan.txt"),
-                           QStringLiteral("提示|确认您的系统中是否安装了Excel软件或版本不兼容！"),
-                           saved + InFolder("plan.xlsx")}));
-    EXPECT_EQ(dialogs_.names.mid(1, 2).join(QLatin1Char(' ')),
-              QStringLiteral("阳光花园-材料优化 阳光花园-材料优化"));
+    const QString saved = "提示|已保存到：";
+    EXPECT_EQ(dialogs_.shown, QStringList({saved + InFolder("plan.txt"),
+                                           "提示|确认您的系统中是否安装了Excel软件或版本不兼容！",
+                                           saved + InFolder("plan.xlsx")}));
+    EXPECT_EQ(dialogs_.names.mid(1, 2).join(QLatin1Char(' ')), "阳光花园-材料优化 阳光花园-材料优化");
     delete opened;
 }
 

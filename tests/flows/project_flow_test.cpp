@@ -55,26 +55,25 @@ TEST_F(ProjectFlow, ProjectsAreEnteredChangedAndDeleted) {
     frmMCGCGL list(KalvaneKernel::Roads(), nullptr);
     list.show();
     auto* lvw = Find<ReportList>(&list, "Lvw");
-    EXPECT_EQ(lvw->Text(0, 0), QStringLiteral("A")) << "sorted by name, not in the order of the store";
+    EXPECT_EQ(lvw->Text(0, 0), "A") << "sorted by name, not in the order of the store";
     EXPECT_EQ(lvw->SelectedRow(), 0) << "Enter opens the first";
     Deselect(list, "Lvw");
     for (const char* button : {"CmdEdit", "CmdDel", "CmdOpen"}) Press(list, button);
-    EXPECT_EQ(dialogs_.TakeShown(), QStringList({QStringLiteral("提示|无选取所需编辑的对象！"),
-                                                 QStringLiteral("提示|无选取所需删除的对象！"),
-                                                 QStringLiteral("提示|无打开的工程！")}));
+    EXPECT_EQ(dialogs_.TakeShown(),
+              "提示|无选取所需编辑的对象！\n提示|无选取所需删除的对象！\n提示|无打开的工程！");
 
     ModalScript()
         .On("frmInputGC",
             [&](QDialog& input) {
                 TypeThrough(input, "B',东街,");
                 Press(input, "OKButton");
-                EXPECT_EQ(input.focusWidget()->objectName(), QStringLiteral("Text1(2)"));
+                EXPECT_EQ(input.focusWidget()->objectName(), "Text1(2)");
                 TypeThrough(input, "乙公司,HT-5");  // the store refuses the quote
-                EXPECT_EQ(input.focusWidget()->objectName(), QStringLiteral("Text1(0)"));
+                EXPECT_EQ(input.focusWidget()->objectName(), "Text1(0)");
                 SetText(input, "Text1(3)", "HT-5678901234567890");  // 19 characters into 18
                 SetText(input, "Text1(0)", "B");
                 Press(input, "OKButton");
-                EXPECT_EQ(input.focusWidget()->objectName(), QStringLiteral("Text1(3)"));
+                EXPECT_EQ(input.focusWidget()->objectName(), "Text1(3)");
                 dialogs_.answers = {false};
                 input.reject();
                 EXPECT_TRUE(input.isVisible()) << "what was typed stays";
@@ -82,10 +81,10 @@ TEST_F(ProjectFlow, ProjectsAreEnteredChangedAndDeleted) {
                 Press(input, "OKButton");
             })
         .Run([&] { Press(list, "CmdAdd"); });
-    const QStringList shown = dialogs_.TakeShown();
+    const QStringList shown = std::exchange(dialogs_.shown, {});
     ASSERT_EQ(shown.size(), 4);
-    EXPECT_EQ(shown[0], QStringLiteral("提示|数据不能为空！"));
-    EXPECT_EQ(shown[3], QStringLiteral("提示|输入的内容还没有保存，要放弃吗？"));
+    EXPECT_EQ(shown[0], "提示|数据不能为空！");
+    EXPECT_EQ(shown[3], "提示|输入的内容还没有保存，要放弃吗？");
     EXPECT_EQ(Rows("Select * from 工程 where 编号=5"), "5|HT-5|B|东街|乙公司");
 
     ModalScript()
@@ -106,9 +105,9 @@ TEST_F(ProjectFlow, ProjectsAreEnteredChangedAndDeleted) {
         Press(list, "CmdDel");
         EXPECT_EQ(lvw->RowCount(), left);
     }
-    const QString question = QStringLiteral("提示|确认要删除工程：B吗？");
+    const QString question = "提示|确认要删除工程：B吗？";
     EXPECT_EQ(dialogs_.usualAnswers.back(), Dialogs::Answer::No) << "Enter deletes nothing";
-    EXPECT_EQ(dialogs_.TakeShown(), QStringList({question, question}));
+    EXPECT_EQ(dialogs_.TakeShown(), question + "\n" + question);
     EXPECT_EQ(Rows("Select 编号 from 工程"), "1\n4");
     EXPECT_EQ(frmOpenGC::OfProject("5"), nullptr) << "its windows are gone with it";
 }
@@ -123,23 +122,23 @@ TEST_F(ProjectFlow, WindowsAreTypedThroughByEnter) {
                 SetText(add, "Text1(0)", "C");
                 Press(add, "cmdAdd");  // no type is chosen yet: nothing happens
                 EXPECT_EQ(lvw->RowCount(), before);
-                ClickTo(add, QStringLiteral("单格固定窗"));
+                ClickTo(add, "单格固定窗");
                 auto* labels = Find<ReportList>(&add, "LvwBZ");
                 TypeThrough(add, "1000,1200,东,,,x2.0,备");
-                EXPECT_EQ(add.focusWidget()->objectName(), QStringLiteral("cmdAdd"));
-                EXPECT_EQ(TextIn(add, "Text1(4)"), QStringLiteral("20")) << "other keys are dropped";
+                EXPECT_EQ(add.focusWidget()->objectName(), "cmdAdd");
+                EXPECT_EQ(TextIn(add, "Text1(4)"), "20") << "other keys are dropped";
                 TypeThrough(add, "");
 
                 EXPECT_EQ(lvw->RowCount(), before + 1);
-                EXPECT_EQ(TextIn(add, "Text1(0)"), QStringLiteral("单格固定窗"));
-                EXPECT_EQ(add.focusWidget()->objectName(), QStringLiteral("TxtBZ"));
+                EXPECT_EQ(TextIn(add, "Text1(0)"), "单格固定窗");
+                EXPECT_EQ(add.focusWidget()->objectName(), "TxtBZ");
                 QTest::keyClick(add.focusWidget(), Qt::Key_Down);
                 EXPECT_EQ(labels->SelectedRow(), 1);
                 Press(add, "cmdAdd");  // another of this type, with the same labels
                 SetText(add, "Text1(4)", "40000");
                 dialogs_.TakeShown();
                 Press(add, "cmdAdd");  // beyond 16 bits
-                EXPECT_EQ(dialogs_.TakeShown().size(), 1);
+                EXPECT_EQ(std::exchange(dialogs_.shown, {}).size(), 1);
                 auto* tree = Find<QTreeWidget>(&add, "Tvw");
                 ClickTo(add, tree->currentItem()->parent()->parent()->text(0));
                 EXPECT_EQ(labels->RowCount(), 0);
@@ -150,9 +149,9 @@ TEST_F(ProjectFlow, WindowsAreTypedThroughByEnter) {
                 EXPECT_EQ(TextIn(add, "Text1(0)"), tree->currentItem()->text(0));
                 QTest::keyClick(tree, Qt::Key_Return);
                 EXPECT_EQ(labels->SelectedRow(), 0);
-                EXPECT_EQ(add.focusWidget()->objectName(), QStringLiteral("TxtBZ"));
+                EXPECT_EQ(add.focusWidget()->objectName(), "TxtBZ");
                 for (int i = 0; i < 30; ++i) {  // a key held down adds no windows
-                    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), true);
+                    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
                     QApplication::sendEvent(add.focusWidget(), &held);
                 }
             })
@@ -172,9 +171,9 @@ TEST_F(ProjectFlow, WindowsAreChangedAndDeleted) {
     for (const char* button : {"CmdEdit", "CmdDel"}) Press(*opened, button);
     lvw->SelectRow(lvw->RowCount() - 1);
     Press(*opened, "CmdEdit");
-    EXPECT_EQ(dialogs_.TakeShown(), QStringList({QStringLiteral("提示|无选取所要编辑的门窗！"),
-                                                 QStringLiteral("提示|在当前工程中无删除的门窗！"),
-                                                 QStringLiteral("提示|组合门窗的编辑将在后续版本中提供。")}));
+    EXPECT_EQ(dialogs_.TakeShown(),
+              "提示|无选取所要编辑的门窗！\n提示|在当前工程中无删除的门窗！\n提示|"
+              "组合门窗的编辑将在后续版本中提供。");
 
     lvw->SelectRow(1);  // C2: B 1500, H 1200, b1 750, b2 750
     ModalScript()
@@ -189,17 +188,17 @@ TEST_F(ProjectFlow, WindowsAreChangedAndDeleted) {
     EXPECT_EQ(Rows("Select 门窗编号,门窗名称,洞口宽,洞口高,樘数,说明 from 工程门窗 where 编号=2"),
               "2|C2|1600|1200|4|改");
     EXPECT_EQ(Rows("Select MC,schar from 标注 where Mcnum=2"), "B|1600\nH|1200\nb1|850\nb2|750");
-    EXPECT_EQ(lvw->Text(lvw->SelectedRow(), 2), QStringLiteral("1600"));
+    EXPECT_EQ(lvw->Text(lvw->SelectedRow(), 2), "1600");
 
     dialogs_.answers = {true};
     opened->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(opened));
     lvw->setFocus();
     QTest::keyClick(lvw, Qt::Key_Delete);
-    EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|确认要删除门窗：C2吗？")));
+    EXPECT_EQ(dialogs_.TakeShown(), "提示|确认要删除门窗：C2吗？");
     EXPECT_EQ(Rows("Select 编号 from 工程门窗 where 编号=2") + Rows("Select * from 标注 where Mcnum=2"), "");
 
-    dialogs_.inputs = {QStringLiteral("7"), QString()};
+    dialogs_.inputs = {"7", QString()};
     for (const char* number : {"7", ""}) {  // a cancelled box stores an empty number
         Press(*opened, "CmdAutoNum");
         EXPECT_EQ(settings_.Read("Tesmar", "KALVANE", "AUTONUM", "none"), number);
@@ -211,13 +210,13 @@ TEST_F(ProjectFlow, TypeWithoutDrawingKeepsNoLabelsOfTheTypeBefore) {
     frmAddGCMC add(nullptr);
     add.StartAdding("1");
     add.show();
-    ClickTo(add, QStringLiteral("单格固定窗"));
+    ClickTo(add, "单格固定窗");
     auto* labels = Find<ReportList>(&add, "LvwBZ");
     ASSERT_EQ(labels->RowCount(), 2);
     auto* tree = Find<QTreeWidget>(&add, "Tvw");  // as with the arrow keys
-    tree->setCurrentItem(tree->findItems(QStringLiteral("无图"), Qt::MatchRecursive).value(0));
+    tree->setCurrentItem(tree->findItems("无图", Qt::MatchRecursive).value(0));
     EXPECT_EQ(labels->RowCount(), 0);
-    EXPECT_EQ(dialogs_.shown.filter(QStringLiteral("还没有图")).size(), 1);
+    EXPECT_EQ(dialogs_.shown.filter("还没有图").size(), 1);
     add.close();
 
     // A window of such a type can still be changed: its labels are its own.

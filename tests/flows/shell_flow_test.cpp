@@ -36,10 +36,10 @@ class LoginTest : public ScreenTest {
 TEST_F(LoginTest, AsksForUserAndPasswordThenLogsIn) {
     Run([this](QDialog& login) {
         Press(login, "cmdOK");
-        EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|请选择要登陆的用户")));
+        EXPECT_EQ(dialogs_.TakeShown(), "提示|请选择要登陆的用户");
         EXPECT_TRUE(user_->hasFocus());
         Try("user", "");
-        EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|密码不能为空！请输入")));
+        EXPECT_EQ(dialogs_.TakeShown(), "提示|密码不能为空！请输入");
         EXPECT_TRUE(password_->hasFocus());
         Try("user", "user888");
         EXPECT_FALSE(login.isVisible());
@@ -50,17 +50,17 @@ TEST_F(LoginTest, AsksForUserAndPasswordThenLogsIn) {
 }
 
 TEST_F(LoginTest, TheFourthWrongTryEndsIt) {
-    const QString wrong = QStringLiteral("提示|输入的密码不正确！");
+    const QString wrong = "提示|输入的密码不正确！";
     Run([&](QDialog& login) {
         for (const char* password : {"user888", "' or '1'='1", "x"}) {
             Try("Admin", password);
-            EXPECT_EQ(dialogs_.TakeShown(), QStringList(wrong)) << password;
+            EXPECT_EQ(dialogs_.TakeShown(), wrong) << password;
             EXPECT_TRUE(password_->hasFocus() && password_->text().isEmpty()) << password;
         }
         Try("Admin", "y");
         EXPECT_FALSE(login.isVisible());
     });
-    EXPECT_EQ(dialogs_.shown, QStringList({wrong, QStringLiteral("提示|你输入已超过三次了！")}));
+    EXPECT_EQ(dialogs_.TakeShown(), wrong + "\n提示|你输入已超过三次了！");
     EXPECT_FALSE(App().loginOK);
 }
 
@@ -76,7 +76,7 @@ TEST_F(LoginTest, WithoutAUserStoreItEndsAtOnce) {
     frmLogin login;
     EXPECT_EQ(login.exec(), QDialog::Rejected);
     ASSERT_EQ(dialogs_.shown.size(), 1);
-    EXPECT_TRUE(dialogs_.shown[0].startsWith(QStringLiteral("出错！|‘用户’数据库打开出错！")));
+    EXPECT_TRUE(dialogs_.shown[0].startsWith("出错！|‘用户’数据库打开出错！"));
 }
 
 TEST_F(LoginTest, TheSplashEndsByItselfAndEndsASecondProgramAtOnce) {
@@ -160,7 +160,7 @@ TEST_F(MainScreenTest, EntriesAndButtonsOpenTheirScreens) {
         Trigger(frame, command);
         const QList<QMdiSubWindow*> children = frame.findChild<QMdiArea*>()->subWindowList();
         ASSERT_EQ(children.size(), 1) << command;
-        EXPECT_EQ(children[0]->widget()->objectName(), QStringLiteral("frmMCGCGL"));
+        EXPECT_EQ(children[0]->widget()->objectName(), "frmMCGCGL");
     }
     const char* const modal[][2] = {
         {"mnuYouhua", "frmYHMain"},
@@ -188,7 +188,7 @@ TEST_F(MainScreenTest, ClearingTheWarehouseEmptiesAllFiveTables) {
     MDIMain frame;
     frame.Load();
     Trigger(frame, "mnuClearCK");
-    EXPECT_EQ(dialogs_.shown, QStringList(QStringLiteral("提示|操作已完成!")));
+    EXPECT_EQ(dialogs_.TakeShown(), "提示|操作已完成!");
     for (const std::string& table : tables) {
         EXPECT_EQ(test::Rows(App().Stock(), "Select * from " + table), "") << table;
     }
@@ -250,8 +250,7 @@ TEST_F(MainScreenTest, ABrokenStoreIsToldAndTheScreenStaysUp) {
     MDIMain frame;
     frame.Load();
     ASSERT_EQ(dialogs_.shown.size(), 2);
-    EXPECT_TRUE(dialogs_.shown[1].startsWith(QStringLiteral("出错！|‘材料’数据库打开出错！")))
-        << "title and text";
+    EXPECT_TRUE(dialogs_.shown[1].startsWith("出错！|‘材料’数据库打开出错！")) << "title and text";
     EXPECT_EQ(NextEnterNo(App().Stock()), "1");
     EXPECT_EQ(App().outputFileType, 1);
     EXPECT_EQ(App().optimise.NODES, 20);

@@ -59,7 +59,7 @@ class StatementAttackTest : public ScreenTest {
         for (QLineEdit* box : screen.findChildren<QLineEdit*>()) {
             if (box->isEnabled() && !box->isReadOnly()) boxes << box;
         }
-        for (QLineEdit* box : boxes) box->setText(QStringLiteral("77"));
+        for (QLineEdit* box : boxes) box->setText("77");
         if (attacked < boxes.size()) boxes[attacked]->setText(QString::fromUtf8(attack));
         return boxes.size();
     }
@@ -69,7 +69,8 @@ class StatementAttackTest : public ScreenTest {
         EXPECT_EQ(Rows("Select count(*) from 门窗"), "30") << what;
         Connection users(folder_ / kUserStoreName, StoreKind::Users);
         EXPECT_EQ(test::Rows(users, "Select userPwd from user where userNm='Admin'").size(), 32U) << what;
-        for (const QString& shown : dialogs_.TakeShown()) EXPECT_FALSE(shown.endsWith('|')) << what;
+        for (const QString& shown : std::exchange(dialogs_.shown, {}))
+            EXPECT_FALSE(shown.endsWith('|')) << what;
     }
 
     bool tried_ = false;

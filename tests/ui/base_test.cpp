@@ -16,13 +16,13 @@ TEST(Guard, AFailureIsToldAlsoWhenTheScreenIsGone) {
         throw StoreError("坏了");
     });
     EXPECT_FALSE(well);
-    EXPECT_EQ(dialogs.shown, QStringList(QStringLiteral("|坏了")));
+    EXPECT_EQ(dialogs.TakeShown(), "|坏了");
 }
 
 class ScreenBaseTest : public ScreenTest {
   protected:
     Screen* NewScreen() {
-        auto* screen = last_ = new Screen(QStringLiteral("frmProbe"), QStringLiteral("探针"), nullptr);
+        auto* screen = last_ = new Screen("frmProbe", "探针", nullptr);
         screen->resize(300, 200);
         screen->ShowModeless();
         return screen;
@@ -49,8 +49,8 @@ TEST_F(ScreenBaseTest, AChildOfTheFrameClosesWithItsWindowAndDeletesItself) {
     for (const bool byFrame : {true, false}) {
         QPointer<Screen> screen = NewScreen();
         ASSERT_EQ(area.subWindowList().size(), 1);
-        EXPECT_TRUE(ActivateScreen(QStringLiteral("frmProbe")));
-        EXPECT_FALSE(ActivateScreen(QStringLiteral("frmOther")));
+        EXPECT_TRUE(ActivateScreen("frmProbe"));
+        EXPECT_FALSE(ActivateScreen("frmOther"));
         if (byFrame) {
             area.subWindowList().front()->close();
         } else {

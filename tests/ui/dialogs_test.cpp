@@ -48,7 +48,7 @@ TEST_F(DialogsTest, QuestionsAreAskedInChineseAndTextsShownPlainly) {
     };
     for (const auto& c : cases) {
         ModalScript().On("", Press(c.press, QString::fromUtf8(c.caption))).Run([&] {
-            const QString text = QStringLiteral("<b>真的吗？");
+            const QString text = "<b>真的吗？";
             EXPECT_EQ(c.yesNo ? Ask(nullptr, text)
                               : UseDialogs().AskOkCancel(nullptr, text, PromptTitle(), Dialogs::Answer::No),
                       c.answer)
@@ -61,22 +61,21 @@ TEST_F(DialogsTest, QuestionsAreAskedInChineseAndTextsShownPlainly) {
                 auto* box = qobject_cast<QMessageBox*>(&screen);
                 EXPECT_EQ(box->textFormat(), Qt::PlainText);
                 EXPECT_EQ(box->icon(), QMessageBox::Critical);
-                EXPECT_EQ(box->windowTitle(), QStringLiteral("KalvaneV7.0"));
+                EXPECT_EQ(box->windowTitle(), "KalvaneV7.0");
             })
-        .Run([] { UseDialogs().Message(nullptr, QStringLiteral("a<b"), {}, NoticeIcon::Error); });
+        .Run([] { UseDialogs().Message(nullptr, "a<b", {}, NoticeIcon::Error); });
 }
 
 TEST_F(DialogsTest, SavingAsksBeforeItOverwrites) {
     std::filesystem::create_directory(folder_ / "plans");
     WriteFileAtomically(folder_ / "plans/old.DDD", "old");
-    const QString filter = QStringLiteral("需求文件|*.DDD");
+    const QString filter = "需求文件|*.DDD";
     const auto save = [&](bool asks) {
-        return UseDialogs().SaveFileName(
-            nullptr, {QStringLiteral("plan"), filter, QStringLiteral("DDD"), QStringLiteral("甲/乙"), asks});
+        return UseDialogs().SaveFileName(nullptr, {"plan", filter, "DDD", "甲/乙", asks});
     };
     ModalScript()
         .On("QFileDialog", Choose(InFolder("plans/old")))
-        .On("", Press(QMessageBox::No, QStringLiteral("否")))
+        .On("", Press(QMessageBox::No, "否"))
         .On("QFileDialog", Choose(InFolder("plans/new")))
         .Run([&] { EXPECT_EQ(save(true), InFolder("plans/new.DDD")); });
     ModalScript().On("QFileDialog", Choose(InFolder("plans/old.DDD"))).Run([&] {

@@ -23,13 +23,9 @@ class ListsTest : public ScreenTest {
 
 TEST_F(ListsTest, AHeadingSortsUpDownAndBack) {
     QDialog screen;
-    ReportList list(QStringLiteral("L"), {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("id")},
-                    &screen);
-    list.SetColumns({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("id")}, 1);
-    list.AddRows({{QStringLiteral("x"), QStringLiteral("10"), QStringLiteral("1")},
-                  {QStringLiteral("y"), QStringLiteral("9.5"), QStringLiteral("2")},
-                  {QStringLiteral("z"), QStringLiteral("无"), QStringLiteral("3")},
-                  {QStringLiteral("w"), QStringLiteral("9.5"), QStringLiteral("4")}});
+    ReportList list("L", {"a", "b", "id"}, &screen);
+    list.SetColumns({"a", "b", "id"}, 1);
+    list.AddRows({{"x", "10", "1"}, {"y", "9.5", "2"}, {"z", "无", "3"}, {"w", "9.5", "4"}});
     list.resize(300, 200);
     screen.show();
     EXPECT_EQ(list.SelectedRow(), 0) << "the first row, on opening";
@@ -37,7 +33,7 @@ TEST_F(ListsTest, AHeadingSortsUpDownAndBack) {
     for (const char* order : orders) {
         ClickHeading(list, 1);
         EXPECT_EQ(Cells(list, 2), order);
-        EXPECT_EQ(list.Text(list.SelectedRow(), 0), QStringLiteral("x")) << "the selected row stays selected";
+        EXPECT_EQ(list.Text(list.SelectedRow(), 0), "x") << "the selected row stays selected";
     }
     list.SelectSeveral();
     list.selectAll();
@@ -54,56 +50,47 @@ TEST_F(ListsTest, ATreeOpensWhereItWasLeft) {
                                          {"乙", "12"}};
     for (const bool isAgain : {false, true}) {
         QDialog screen;
-        screen.setObjectName(QStringLiteral("frmProbe"));
-        auto* tree = new NodeTree(QStringLiteral("Tvw"), "3", &screen);
+        screen.setObjectName("frmProbe");
+        auto* tree = new NodeTree("Tvw", "3", &screen);
         tree->Show(nodes);
         screen.show();
         EXPECT_EQ(tree->Find("21")->isExpanded(), isAgain);
         EXPECT_EQ(tree->Selected(), nullptr);
-        EXPECT_EQ(tree->SelectedOrTell(QStringLiteral("没有")), nullptr);
+        EXPECT_EQ(tree->SelectedOrTell("没有"), nullptr);
         EXPECT_EQ(tree->currentItem() != nullptr && NodeTree::Tag(tree->currentItem()) == "32", isAgain);
         tree->expandItem(tree->Find("11"));
         tree->expandItem(tree->Find("21"));
         tree->setCurrentItem(tree->Find("32"));
         EXPECT_EQ(NodeTree::Kind(tree->Selected()) + NodeTree::Id(tree->Selected()), "32");
         tree->Move(tree->Find("31"), tree->Find("12"));
-        EXPECT_EQ(tree->Find("12")->child(0)->text(0), QStringLiteral("窗"));
+        EXPECT_EQ(tree->Find("12")->child(0)->text(0), "窗");
         screen.hide();
     }
-    EXPECT_EQ(dialogs_.shown, QStringList({QStringLiteral("提示|没有"), QStringLiteral("提示|没有")}));
+    EXPECT_EQ(dialogs_.TakeShown(), "提示|没有\n提示|没有");
 }
 
 TEST_F(ListsTest, AFormWritesItsSlotsAndComesBackFromARefusal) {
     FieldSlots shared;
     shared[2] = "stale";
-    EntryForm form(QStringLiteral("frmProbe"), QStringLiteral("t"),
-                   {{.name = QStringLiteral("Text1(0)"),
-                     .caption = QStringLiteral("价："),
-                     .slot = 1,
-                     .keys = NumberKeys::Decimal,
-                     .column = QStringLiteral("单价")},
-                    {.name = QStringLiteral("Combo1"),
-                     .caption = QStringLiteral("类："),
-                     .slot = 3,
-                     .choices = {QStringLiteral("型材"), QStringLiteral("型钢")}},
-                    {.name = QStringLiteral("Text1(1)"),
-                     .caption = QStringLiteral("注："),
-                     .slot = 4,
-                     .mayBeEmpty = true}},
-                   shared, nullptr);
+    EntryForm form(
+        "frmProbe", "t",
+        {{.name = "Text1(0)", .caption = "价：", .slot = 1, .keys = NumberKeys::Decimal, .column = "单价"},
+         {.name = "Combo1", .caption = "类：", .slot = 3, .choices = {"型材", "型钢"}},
+         {.name = "Text1(1)", .caption = "注：", .slot = 4, .mayBeEmpty = true}},
+        shared, nullptr);
     int saves = 0;
     ModalScript()
         .On("frmProbe",
             [&](QDialog& screen) {
                 Press(screen, "OKButton");
-                QTest::keyClicks(screen.focusWidget(), QStringLiteral("1x2.5"));
+                QTest::keyClicks(screen.focusWidget(), "1x2.5");
                 QTest::keyClick(screen.focusWidget(), Qt::Key_Return);
-                EXPECT_EQ(screen.focusWidget()->objectName(), QStringLiteral("Combo1"));
+                EXPECT_EQ(screen.focusWidget()->objectName(), "Combo1");
                 QTest::keyClick(screen.focusWidget(), Qt::Key_Down);
                 QTest::keyClick(screen.focusWidget(), Qt::Key_Down);
                 QTest::keyClick(screen.focusWidget(), Qt::Key_Return);
                 QTest::keyClick(screen.focusWidget(), Qt::Key_Return);  // confirms, and is refused
-                EXPECT_EQ(screen.focusWidget()->objectName(), QStringLiteral("Text1(0)"));
+                EXPECT_EQ(screen.focusWidget()->objectName(), "Text1(0)");
                 Press(screen, "OKButton");
             })
         .Run([&] {
@@ -111,7 +98,7 @@ TEST_F(ListsTest, AFormWritesItsSlotsAndComesBackFromARefusal) {
                 if (++saves == 1) throw ColumnError("单价", "太大");
             }));
         });
-    EXPECT_EQ(dialogs_.shown, QStringList({QStringLiteral("提示|数据不能为空！"), QStringLiteral("|太大")}));
+    EXPECT_EQ(dialogs_.TakeShown(), "提示|数据不能为空！\n|太大");
     EXPECT_EQ(shared[1] + "," + shared[2] + "," + shared[3] + "," + shared[4], "12.5,stale,2,");
 }
 

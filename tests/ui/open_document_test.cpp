@@ -18,7 +18,7 @@ TEST(OpenDocumentTest, AsksTheDesktopForAProgramFirst) {
     const QString file = QString::fromStdString((folder / "表.xlsx").string());
     WriteFileAtomically(folder / "表.xlsx", "表");
     QTextBrowser opener;  // stands in for the desktop's opener
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), &opener, "setSource");
+    QDesktopServices::setUrlHandler("file", &opener, "setSource");
     answer("exit 0\n");
     EXPECT_FALSE(OpenDocument(file));
     EXPECT_TRUE(opener.source().isEmpty());
@@ -27,7 +27,7 @@ TEST(OpenDocumentTest, AsksTheDesktopForAProgramFirst) {
         " && echo calc.desktop\n");
     EXPECT_TRUE(OpenDocument(file));
     EXPECT_EQ(opener.source(), QUrl::fromLocalFile(file));
-    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    QDesktopServices::unsetUrlHandler("file");
     qputenv("PATH", path);
 }
 

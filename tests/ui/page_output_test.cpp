@@ -30,9 +30,8 @@ TEST_F(PageOutput, WithoutAPrinterThereArePreviewAndPdf) {
     ModalScript()
         .On("frmPreview",
             [&](QDialog& preview) {
-                EXPECT_EQ(preview.windowTitle(), QStringLiteral("打印预览->材料表"));
-                EXPECT_EQ(Find<QComboBox>(&preview, "CmbPrinter")->currentText(),
-                          QStringLiteral("没有安装打印机"));
+                EXPECT_EQ(preview.windowTitle(), "打印预览->材料表");
+                EXPECT_EQ(Find<QComboBox>(&preview, "CmbPrinter")->currentText(), "没有安装打印机");
                 EXPECT_FALSE(Find<QPushButton>(&preview, "CmdPrint")->isEnabled());
                 Press(preview, "CmdPdf");  // cancelled
                 EXPECT_EQ(Find<QLabel>(&preview, "LblTold")->text(), QString());
@@ -40,7 +39,7 @@ TEST_F(PageOutput, WithoutAPrinterThereArePreviewAndPdf) {
                 EXPECT_EQ(Find<QLabel>(&preview, "LblTold")->text(),
                           QStringLiteral("已保存：") + InFolder("表.pdf"));
             })
-        .Run([&] { wasPutOut = PrintDocument(nullptr, QStringLiteral("材料表"), {}, PaintThreePages); });
+        .Run([&] { wasPutOut = PrintDocument(nullptr, "材料表", {}, PaintThreePages); });
     EXPECT_TRUE(wasPutOut);
     const std::string pdf = ReadFile(folder_ / "表.pdf");
     EXPECT_EQ(CountOf(pdf, "/Type /Page\n"), 3);
@@ -52,11 +51,11 @@ TEST_F(PageOutput, NothingPaintedShowsNothingAndAFailureReachesTheCaller) {
     EXPECT_FALSE(PrintDocument(nullptr, {}, {}, [](PageTarget&) {}));
     EXPECT_THROW(PrintDocument(nullptr, {}, {}, [](PageTarget&) { throw StoreError("坏"); }), StoreError);
     EXPECT_THROW(PageDocument({}, {}, PaintThreePages).WritePdf(folder_ / "none" / "a.pdf"), FileError);
-    EXPECT_THROW(PageDocument({}, {}, PaintThreePages).Print(QStringLiteral("没有"), 1, 0, 0), Error);
+    EXPECT_THROW(PageDocument({}, {}, PaintThreePages).Print("没有", 1, 0, 0), Error);
 }
 
 TEST_F(PageOutput, ThePreviewShowsEachPageAtItsScale) {
-    const PageDocument document(QStringLiteral("表"), {}, PaintThreePages);
+    const PageDocument document("表", {}, PaintThreePages);
     PageView view(document);
     view.resize(1000, 900);
     view.show();

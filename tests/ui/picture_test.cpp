@@ -46,7 +46,7 @@ TEST(WindowPicture, TheImageShowsStrokesAndValuesInTheFramesShape) {
 }
 
 TEST(PictureBox, KeepsThePersistentLayerUnderTheTransientOne) {
-    PictureBox box(QStringLiteral("PicMC"));
+    PictureBox box("PicMC");
     box.resize(300, 200);
     int runs = 0;
     box.SetPersistent([&](PainterTarget& target, Box inner) {

@@ -18,7 +18,6 @@
 #include "project/project_list.h"
 #include "project/project_windows.h"
 #include "session/app_state.h"
-#include "session/shared_slots.h"
 #include "ui/application.h"
 #include "ui/dialogs.h"
 #include "ui/message_notice.h"

@@ -16,7 +16,6 @@
 #include "drawing/screens/frmOpenPicture.h"
 #include "drawing/screens/frmSavePicEX.h"
 #include "session/app_state.h"
-#include "session/shared_slots.h"
 #include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/page_output.h"

@@ -6,7 +6,6 @@
 
 #include "drawing/drawing_library.h"
 #include "session/app_state.h"
-#include "session/shared_slots.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"

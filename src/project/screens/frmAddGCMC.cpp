@@ -9,7 +9,6 @@
 #include "project/screens/label_editor.h"
 #include "project/screens/window_boxes.h"
 #include "session/app_state.h"
-#include "session/shared_slots.h"
 #include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/node_tree.h"

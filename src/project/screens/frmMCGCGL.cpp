@@ -5,7 +5,6 @@
 
 #include "project/screens/frmOpenGC.h"
 #include "session/app_state.h"
-#include "session/shared_slots.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/entry_form.h"

@@ -36,9 +36,9 @@ TEST_F(frmViewMCTest, WalksTheFoldersShowsADrawingAndHandsItsPathBack) {
         files->findItems(QString::fromUtf8(name), Qt::MatchExactly).front()->setSelected(true);
     };
     ASSERT_EQ(folders->count(), 2);
-    EXPECT_EQ(folders->item(0)->text() + folders->item(1)->text(), QStringLiteral("..推拉"));
+    EXPECT_EQ(folders->item(0)->text() + folders->item(1)->text(), "..推拉");
     Press(form, "OKButton");
-    EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|无选取图形文件")));
+    EXPECT_EQ(dialogs_.TakeShown(), "提示|无选取图形文件");
 
     folders->setFocus();
     folders->setCurrentRow(1);
@@ -46,13 +46,13 @@ TEST_F(frmViewMCTest, WalksTheFoldersShowsADrawingAndHandsItsPathBack) {
     EXPECT_EQ(files->count(), 3);
     select("说明.txt");
     Press(form, "OKButton");
-    EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("提示|无效的图型文件")));
+    EXPECT_EQ(dialogs_.TakeShown(), "提示|无效的图型文件");
 
     select("窗.mc");
     EXPECT_TRUE(ShowsALine(form));
     select("坏.MC");
     EXPECT_FALSE(ShowsALine(form));
-    EXPECT_EQ(dialogs_.TakeShown(), QStringList(QStringLiteral("|图形文件第 2 行的“x”不是数字。")));
+    EXPECT_EQ(dialogs_.TakeShown(), "|图形文件第 2 行的“x”不是数字。");
     select("窗.mc");
     Press(form, "OKButton");
     EXPECT_FALSE(form.isVisible());

@@ -12,7 +12,6 @@
 #include "app/store_setup.h"
 #include "platform/settings_store.h"
 #include "session/app_state.h"
-#include "session/shared_slots.h"
 #include "store/store_files.h"
 #include "support/screens/scripted_dialogs.h"
 #include "support/store_rows.h"

@@ -26,8 +26,8 @@ class ScriptedDialogs final : public Dialogs {
     std::deque<QString> inputs;  ///< a null text cancels
     std::deque<QString> files;   ///< an empty name cancels
 
-    /// What was shown since the last call.
-    QStringList TakeShown() { return std::exchange(shown, {}); }
+    /// What was shown since the last call, a line each.
+    QString TakeShown() { return std::exchange(shown, {}).join(QLatin1Char('\n')); }
 
     void Message(QWidget*, const QString& text, const QString& title, NoticeIcon icon) override {
         Record(title, text);
