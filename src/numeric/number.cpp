@@ -11,9 +11,6 @@
 namespace kalvane {
 namespace {
 
-constexpr int kMoneyDecimals = 4;
-constexpr double kMoneyScale = 10000;
-
 constexpr bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
@@ -167,7 +164,8 @@ double RoundToMoney(std::string_view text) {
     if (digits.empty()) return 0;
 
     constexpr double kMostDigits = 19;  // of a 64-bit integer
-    const double count = static_cast<double>(digits.size()) + shift + kMoneyDecimals;
+    constexpr int kDecimals = 4;
+    const double count = static_cast<double>(digits.size()) + shift + kDecimals;
     if (count > kMostDigits) throw NumericError::Overflow();
     if (count < 0) return 0;
     const auto whole = static_cast<std::size_t>(count);
@@ -179,7 +177,8 @@ double RoundToMoney(std::string_view text) {
     if (digits > "5" || (digits == "5" && scaled % 2 == 1)) ++scaled;
     if (scaled > std::numeric_limits<std::int64_t>::max()) throw NumericError::Overflow();
     const auto signedScaled = static_cast<std::int64_t>(scaled);
-    return static_cast<double>(text.front() == '-' ? -signedScaled : signedScaled) / kMoneyScale;
+    // By way of the text, since not every such number of ten thousandths is a 64-bit float.
+    return Convert(std::to_string(text.front() == '-' ? -signedScaled : signedScaled) + "e-4");
 }
 
 double RoundToMoney(double value) {

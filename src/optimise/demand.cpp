@@ -87,7 +87,7 @@ class Gathering {
             OpenQuery(connection_, "Select 名称 from 门窗 where 编号=" + typeId);
         const std::string name = type && !type->Eof() ? type->Field(0).TextOrEmpty() : typeId;
         throw NumericError("门窗类型“" + name + "”有一行公式没有“" + column +
-                           "”，请在“门窗公式设计”中打开这个类型并保存一次。");
+                           "”，请在“窗型设计”中打开这个类型的“门窗公式设计”并保存一次。");
     }
 
     Connection& connection_;

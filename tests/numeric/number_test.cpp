@@ -69,6 +69,7 @@ TEST(Number, RoundsMoneyFromItsDecimalText) {
                                                       {"0012.3E2", 1230},
                                                       {"0", 0},
                                                       {"9.9999500001", 10},
+                                                      {"98882293626363.63", 98882293626363.63},
                                                       {"99999999999.12345", 99999999999.1234},
                                                       {"922337203685477.58074999", 922337203685477.5807}};
     for (const auto& [text, amount] : amounts) EXPECT_EQ(RoundToMoney(text), amount) << text;

@@ -53,8 +53,9 @@ TEST_F(DemandTest, CompositesCutTheQuantityFirst) {
 TEST_F(DemandTest, AFormulaRowWithoutANumberIsReportedWithItsWindowType) {
     Insert({"窗型材 (窗号,名称,规格,数量,计算公式) values(8,'b','X60','1','6')",
             "门窗 (编号,名称) values(8,'推拉窗')"});
-    EXPECT_EQ(Refusal([&] { Gather({Window("1", "8", "21")}); }),
-              "门窗类型“推拉窗”有一行公式没有“编号”，请在“门窗公式设计”中打开这个类型并保存一次。");
+    EXPECT_EQ(
+        Refusal([&] { Gather({Window("1", "8", "21")}); }),
+        "门窗类型“推拉窗”有一行公式没有“编号”，请在“窗型设计”中打开这个类型的“门窗公式设计”并保存一次。");
 }
 
 TEST_F(DemandTest, FailureKeepsTheRowsBefore) {
