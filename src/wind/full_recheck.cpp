@@ -136,11 +136,7 @@ void WarnOfLoad(Recheck& recheck, const FormTexts& base, const FullLoad& load) {
 
 /// The row of the list nearest to the glass's ratio is the one to choose.
 void WarnOfRatio(Recheck& recheck, const FormTexts& detail, double ratio) {
-    const auto nearest =
-        std::min_element(kBending.begin(), kBending.end(), [ratio](const auto& a, const auto& b) {
-            return std::fabs(a.ratio - ratio) < std::fabs(b.ratio - ratio);
-        });
-    const auto place = static_cast<std::size_t>(nearest - kBending.begin());
+    const std::size_t place = NearestBendingRow(ratio);
     if (detail.Choice("Combo2") == place) return;
     const auto& boxes = detail.Boxes();
     const auto list =

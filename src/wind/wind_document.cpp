@@ -8,12 +8,15 @@ namespace kalvane {
 namespace {
 
 constexpr const char* kAnnexTitle = "附：复核";
-constexpr const char* kSame = "与报告的结论相同";
 
 /// The verdict of the re-check as a whole, beside the report's verdicts.
 std::string RecheckVerdict(const Recheck& recheck) {
     const std::string verdict = VerdictWord(recheck.Passes());
     return recheck.Differs() ? verdict + "（与报告不同）" : verdict;
+}
+
+bool HasHead(const CheckRun& run) {
+    return run.checks.size() + run.skipped.size() > 1;
 }
 
 std::string Separated(const std::vector<std::string>& cells) {
@@ -39,9 +42,9 @@ Report RecheckAnnex(const WindowCheck& check) {
     Report report;
     report.title = kAnnexTitle;
     if (!check.window.empty()) report.heading.push_back({"门窗：" + check.window});
-    report.heading.push_back({std::string("按同样的规范、用一致的单位（N、mm）再算一遍。") +
-                              (check.recheck.Differs() ? "下面有与报告不同的结论，请以复核为准判断是否安全。"
-                                                       : kSame + std::string("。"))});
+    const std::string outcome =
+        check.recheck.Differs() ? "有与报告不同的结论，请按复核判断是否安全。" : "结论与报告相同。";
+    report.heading.push_back({"按同样的规范、用一致的单位（N、mm）再算一遍。" + outcome});
     report.columns = {{"项目", 1.5F}, {"公式", 2.2F}, {"代入", 3},
                       {"结果", 1.5F}, {"限值", 1.2F}, {"结论", 1.4F}};
     for (const RecheckRow& row : check.recheck.rows) {
@@ -52,26 +55,27 @@ Report RecheckAnnex(const WindowCheck& check) {
     return report;
 }
 
-Report VerdictTable(const std::vector<WindowCheck>& checks) {
+Report VerdictTable(const CheckRun& run) {
     Report report;
     report.title = "校核结论";
     report.columns = {{"序号", 0.6F, ReportAlign::Centre}, {"门窗", 2.5F}};
-    for (const WindowCheck::Verdict& verdict : checks.front().verdicts) {
+    for (const WindowCheck::Verdict& verdict : run.checks.front().verdicts) {
         report.columns.push_back({verdict.check, 1, ReportAlign::Centre});
     }
     report.columns.push_back({"复核", 1.4F, ReportAlign::Centre});
-    for (const WindowCheck& check : checks) {
+    for (const WindowCheck& check : run.checks) {
         std::vector<std::string> row = {std::to_string(report.rows.size() + 1), check.window};
         for (const WindowCheck::Verdict& verdict : check.verdicts) row.push_back(VerdictWord(verdict.passes));
         row.push_back(RecheckVerdict(check.recheck));
         report.rows.push_back(std::move(row));
     }
+    for (const std::string& skipped : run.skipped) report.closing.push_back({"未校核：" + skipped});
     return report;
 }
 
-void PaintWindowChecks(PageTarget& page, const std::vector<WindowCheck>& checks, bool hasAnnex) {
-    if (checks.size() > 1) PaintReport(page, VerdictTable(checks));
-    for (const WindowCheck& check : checks) {
+void PaintCheckRun(PageTarget& page, const CheckRun& run, bool hasAnnex) {
+    if (HasHead(run)) PaintReport(page, VerdictTable(run));
+    for (const WindowCheck& check : run.checks) {
         if (check.isSliding) {
             PaintSlidingReport(page, check.lines);
         } else {
@@ -81,10 +85,10 @@ void PaintWindowChecks(PageTarget& page, const std::vector<WindowCheck>& checks,
     }
 }
 
-std::string WindowChecksText(const std::vector<WindowCheck>& checks, bool hasAnnex) {
+std::string CheckRunText(const CheckRun& run, bool hasAnnex) {
     std::string text;
-    if (checks.size() > 1) text += ReportText(VerdictTable(checks)) + "\r\n";
-    for (const WindowCheck& check : checks) {
+    if (HasHead(run)) text += ReportText(VerdictTable(run)) + "\r\n";
+    for (const WindowCheck& check : run.checks) {
         text += JoinedLines(check.lines);
         if (hasAnnex) text += "\r\n" + ReportText(RecheckAnnex(check)) + "\r\n";
     }

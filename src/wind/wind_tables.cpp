@@ -1,5 +1,8 @@
 #include "wind/wind_tables.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "numeric/assertion.h"
 
 namespace kalvane {
@@ -58,6 +61,14 @@ double GlassCoefficient(std::size_t glass) {
 float SteelInertia(std::size_t type, std::size_t thickness) {
     KALVANE_ASSERT(type < kSteelTypes && thickness < kSteelThicknesses);
     return kSteelInertia[type][thickness];
+}
+
+std::size_t NearestBendingRow(double ratio) {
+    const auto nearest =
+        std::min_element(kBending.begin(), kBending.end(), [ratio](const RatioRow& a, const RatioRow& b) {
+            return std::fabs(a.ratio - ratio) < std::fabs(b.ratio - ratio);
+        });
+    return static_cast<std::size_t>(nearest - kBending.begin());
 }
 
 }  // namespace kalvane

@@ -57,4 +57,7 @@ inline constexpr std::array<RatioRow, 15> kBending = {{{0.00, 0.1250},
                                                        {0.95, 0.0483},
                                                        {1.00, 0.0442}}};
 
+/// The row whose ratio is nearest to that of a pane.
+std::size_t NearestBendingRow(double ratio);
+
 }  // namespace kalvane

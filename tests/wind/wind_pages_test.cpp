@@ -67,7 +67,7 @@ TEST_F(WindDocument, CoverSpreadsTheProjectAndTheTitle) {
 
 TEST_F(WindDocument, AnnexStandsOnItsOwnPageUnlessLeftOut) {
     const WindowCheck check = CheckSlidingWindow(Sash());
-    PaintWindowChecks(record_, {check}, true);
+    PaintCheckRun(record_, {{check}, {}}, true);
     const std::size_t pages = record_.Pages().size();
     const auto annex = Texts(record_.Pages().back());
     EXPECT_EQ(annex[0], "附：复核");
@@ -75,7 +75,7 @@ TEST_F(WindDocument, AnnexStandsOnItsOwnPageUnlessLeftOut) {
     for (const std::string& text : annex) all += text;
     EXPECT_NE(all.find("报告合格，按一致单位复核不合格"), std::string::npos);
     PageRecord without(measure_, kA4Width, kA4Height);
-    PaintWindowChecks(without, {check}, false);
+    PaintCheckRun(without, {{check}, {}}, false);
     EXPECT_EQ(without.Pages().size() + 1, pages);
     EXPECT_EQ(Texts(without.Pages()[0]), Texts(record_.Pages()[0]));
     // The title's line is 24 points behind three tabs; the sub-headings stand behind one.
@@ -85,15 +85,16 @@ TEST_F(WindDocument, AnnexStandsOnItsOwnPageUnlessLeftOut) {
 }
 
 TEST_F(WindDocument, SeveralWindowsHaveTheirVerdictsAtTheHead) {
-    const std::vector<WindowCheck> checks = {
-        CheckSlidingWindow(Sash({{"txtGCMC", "海景"}, {"txtMCBH", "TC1"}})),
-        CheckSlidingWindow(Sash({{"txtMCBH", "TC2"}, {"txtXGGXG", "30"}}))};
-    PaintWindowChecks(record_, checks, false);
-    EXPECT_EQ(Texts(record_.Pages()[0]),
-              (std::vector<std::string>{"校核结论", "序号", "门窗", "玻璃面积", "型钢挠度", "复核", "1",
-                                        "海景 TC1", "合格", "合格", "不合格（与报告不同）", "2", "TC2",
-                                        "合格", "合格", "合格", "校核结论", "第 1 页，共 1 页"}));
-    const std::string text = WindowChecksText(checks, true);
+    const CheckRun run = {{CheckSlidingWindow(Sash({{"txtGCMC", "海景"}, {"txtMCBH", "TC1"}})),
+                           CheckSlidingWindow(Sash({{"txtMCBH", "TC2"}, {"txtXGGXG", "30"}}))},
+                          {"C3：扇宽度不能为空!"}};
+    PaintCheckRun(record_, run, false);
+    EXPECT_EQ(
+        Texts(record_.Pages()[0]),
+        (std::vector<std::string>{"校核结论", "序号", "门窗", "玻璃面积", "型钢挠度", "复核", "1", "海景 TC1",
+                                  "合格", "合格", "不合格（与报告不同）", "2", "TC2", "合格", "合格", "合格",
+                                  "未校核：C3：扇宽度不能为空!", "校核结论", "第 1 页，共 1 页"}));
+    const std::string text = CheckRunText(run, true);
     EXPECT_EQ(text.find("校核结论\r\n序号\t门窗\t玻璃面积\t型钢挠度\t复核\r\n1\t海景 TC1\t"), 0U);
     EXPECT_NE(text.find("\r\n\r\n附：复核\r\n门窗：TC2\r\n"), std::string::npos);
     EXPECT_NE(text.find("\r\n\t\t\t塑钢门窗抗风压校核报告\r\n\r\n一、工程名称：海景\r\n"), std::string::npos);
