@@ -20,14 +20,22 @@ void SayWhere(QWidget* parent, const QString& file) {
     Tell(parent, QStringLiteral("已保存到：%1").arg(QDir::toNativeSeparators(file)));
 }
 
-}  // namespace
-
-bool ExportText(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write) {
-    const QString file =
-        Written(parent, {purpose, QStringLiteral("*.txt|*.txt"), QStringLiteral("txt"), name}, write);
+/// Writes a file and says where.
+bool Export(QWidget* parent, const SaveRequest& request, const WriteFile& write) {
+    const QString file = Written(parent, request, write);
     if (file.isEmpty()) return false;
     SayWhere(parent, file);
     return true;
+}
+
+}  // namespace
+
+bool ExportText(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write) {
+    return Export(parent, {purpose, QStringLiteral("*.txt|*.txt"), QStringLiteral("txt"), name}, write);
+}
+
+bool ExportPdf(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write) {
+    return Export(parent, {purpose, QStringLiteral("PDF 文件|*.pdf"), QStringLiteral("pdf"), name}, write);
 }
 
 bool ExportWorkbook(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write,

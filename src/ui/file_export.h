@@ -17,6 +17,9 @@ using WriteFile = std::function<void(const std::filesystem::path& file)>;
 /// A text file.
 bool ExportText(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write);
 
+/// A PDF file.
+bool ExportPdf(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write);
+
 /// An .xlsx file, which is opened in the desktop's program for it; `complaint` is said when there is none.
 bool ExportWorkbook(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write,
                     const QString& complaint);

@@ -26,6 +26,7 @@ struct FormBox {
     std::string_view preset;
     BoxKind kind = BoxKind::Text;
     std::span<const std::string_view> choices = {};
+    std::string_view unit = {};  ///< shown behind the box
 };
 
 using FormBoxes = std::span<const FormBox>;
@@ -44,6 +45,7 @@ class FormTexts {
     explicit FormTexts(FormBoxes boxes);
 
     FormBoxes Boxes() const { return boxes_; }
+    bool operator==(const FormTexts& other) const { return texts_ == other.texts_; }
     const std::string& Text(std::string_view name) const;
 
     /// Throws Error, telling what there is, when no box has that name or a list has no such entry.

@@ -1,12 +1,16 @@
 #include "wind/wind_document.h"
 
+#include "page/inset_page.h"
 #include "page/paint_report.h"
+#include "platform/files.h"
 #include "wind/verdict.h"
 #include "wind/wind_pages.h"
 
 namespace kalvane {
 namespace {
 
+constexpr float kMargin = 850;  // twips, of the tables
+const std::string kByteOrderMark = "\xEF\xBB\xBF";
 constexpr const char* kAnnexTitle = "附：复核";
 
 /// The verdict of the re-check as a whole, beside the report's verdicts.
@@ -74,14 +78,15 @@ Report VerdictTable(const CheckRun& run) {
 }
 
 void PaintCheckRun(PageTarget& page, const CheckRun& run, bool hasAnnex) {
-    if (HasHead(run)) PaintReport(page, VerdictTable(run));
+    InsetPage table(page, kMargin);
+    if (HasHead(run)) PaintReport(table, VerdictTable(run));
     for (const WindowCheck& check : run.checks) {
         if (check.isSliding) {
             PaintSlidingReport(page, check.lines);
         } else {
             PaintFullReport(page, check.lines);
         }
-        if (hasAnnex) PaintReport(page, RecheckAnnex(check));
+        if (hasAnnex) PaintReport(table, RecheckAnnex(check));
     }
 }
 
@@ -93,6 +98,10 @@ std::string CheckRunText(const CheckRun& run, bool hasAnnex) {
         if (hasAnnex) text += "\r\n" + ReportText(RecheckAnnex(check)) + "\r\n";
     }
     return text;
+}
+
+void SaveCheckRunText(const std::filesystem::path& file, const CheckRun& run, bool hasAnnex) {
+    WriteFileAtomically(file, kByteOrderMark + CheckRunText(run, hasAnnex));
 }
 
 }  // namespace kalvane

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
-#include <vector>
 
 #include "page/page_target.h"
 #include "page/report.h"
@@ -21,5 +21,9 @@ void PaintCheckRun(PageTarget& page, const CheckRun& run, bool hasAnnex);
 
 /// The same as one text, lines ended by CR LF.
 std::string CheckRunText(const CheckRun& run, bool hasAnnex);
+
+/// Writes that text in UTF-8 with a byte order mark, by which the editors of any desktop show it. Throws
+/// FileError and leaves an older file as it was.
+void SaveCheckRunText(const std::filesystem::path& file, const CheckRun& run, bool hasAnnex);
 
 }  // namespace kalvane

@@ -11,12 +11,15 @@
 #include "optimise/screens/PYH02.h"
 #include "platform/help_text.h"
 #include "platform/settings_store.h"
+#include "project/screens/choose_windows.h"
 #include "session/app_state.h"
 #include "ui/dialogs.h"
 #include "ui/main_frame.h"
 #include "ui/text.h"
 #include "ui/text_screen.h"
 #include "warehouse/clear_stock.h"
+#include "wind/screens/FrmMainFY01.h"
+#include "wind/screens/frmFY.h"
 
 namespace kalvane {
 namespace {
@@ -38,6 +41,14 @@ void ChangeBackground(MDIMain& frame) {
 void ClearWarehouse(MDIMain& frame) {
     ClearStock(App().Stock());
     Tell(&frame, QStringLiteral("操作已完成!"));
+}
+
+void ShowWindCheck(MDIMain& frame) {
+    if (App().windCheckOption != 0) {
+        frmFY(ChooseWindowsForCheck, &frame).exec();
+    } else {
+        FrmMainFY01(ChooseWindowsForCheck, &frame).exec();
+    }
 }
 
 void ShowHelp(MDIMain& frame) {
@@ -73,7 +84,7 @@ const std::vector<MainMenu>& MainMenus() {
              {QStringLiteral("mnuYouhua"), QStringLiteral("材料优化"), QStringLiteral("optimise"),
               Right::Optimise, [](MDIMain& frame) { PYH02().YH02Show(&frame); }},
              {QStringLiteral("mnuFYJH"), QStringLiteral("风压校核"), QStringLiteral("wind"), Right::WindCheck,
-              nullptr},
+              [](MDIMain& frame) { ShowWindCheck(frame); }},
              {QStringLiteral("mnuExit"),
               QStringLiteral("退出"),
               QStringLiteral("exit"),
