@@ -49,8 +49,8 @@ Report RecheckAnnex(const WindowCheck& check) {
     const std::string outcome =
         check.recheck.Differs() ? "有与报告不同的结论，请按复核判断是否安全。" : "结论与报告相同。";
     report.heading.push_back({"按同样的规范、用一致的单位（N、mm）再算一遍。" + outcome});
-    report.columns = {{"项目", 1.5F}, {"公式", 2.2F}, {"代入", 3},
-                      {"结果", 1.5F}, {"限值", 1.2F}, {"结论", 1.4F}};
+    report.columns = {{"项目", 1.3F}, {"公式", 2.0F}, {"代入", 2.6F},
+                      {"结果", 2.0F}, {"限值", 1.6F}, {"结论", 1.4F}};
     for (const RecheckRow& row : check.recheck.rows) {
         report.rows.push_back(
             {row.check, row.formula, row.numbers, row.ResultText(), row.LimitText(), row.VerdictText()});

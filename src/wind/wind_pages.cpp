@@ -16,7 +16,7 @@ constexpr PageFont kSlidingTitleFont{kSlidingTitlePoints, false};
 constexpr PageFont kSlidingBodyFont{kSlidingBodyPoints, false};
 constexpr float kTab = 720;  // twips
 constexpr PageFont kProjectFont{22, false};
-constexpr PageFont kTitleFont{42, true};
+constexpr PageFont kTitleFont{36, true};
 constexpr PageFont kCoverFont{16, false};
 
 /// From one line to the next.
@@ -113,14 +113,14 @@ void PaintCover(PageTarget& page, const CoverTexts& cover) {
     }
 
     page.SetFont(kTitleFont);
-    y = std::max(y, page.Height() / 4);
+    y = std::max(y, page.Height() / 5);
     for (const std::string_view character : {"门", "窗", "校", "核", "报", "告"}) {
         PaintCentred(page, y, character);
         y += LineStep(page.TextHeight("A"));
     }
 
     page.SetFont(kCoverFont);
-    y = page.Height() * 3 / 4;
+    y = std::max(y, page.Height() * 3 / 4);
     const std::array<std::string, 4> lines = {"校       核：" + cover.checker,
                                               "审       核：" + cover.reviewer, "校 核 单 位：" + cover.unit,
                                               "校 核 日 期：" + cover.date};

@@ -34,6 +34,7 @@ FrmMainFY01::FrmMainFY01(ChooseWindows choose, QWidget* parent)
     QPushButton* cover = MakeButton("CmdFM", QStringLiteral("封面设置..."), this);
     QPushButton* printCover = MakeButton("CmdFMPrint", QStringLiteral("打印封面"), this);
     QPushButton* next = MakeButton("CmdNext", QStringLiteral("下一步"), this);
+    next->setDefault(true);
     QPushButton* exit = MakeButton("Command2", QStringLiteral("退出"), this);
     LayOutAboveButtons(this, body, {cover, printCover, next, exit});
 

@@ -73,6 +73,7 @@ void frmFY::LayOut() {
     right->addWidget(chart_, 1);
     right->addWidget(notes_);
     columns->addLayout(right, 1);
+    check_->setDefault(true);
     LayOutAboveButtons(this, body, {take_, check_, exit_});
 }
 

@@ -23,6 +23,7 @@ frmFY01::frmFY01(ChooseWindows choose, FormTexts base, QWidget* parent)
       notes_(new QLabel(this)),
       check_(MakeButton("OKButton", QStringLiteral("校核"), this)) {
     controls_.Box("Text5")->setReadOnly(true);
+    check_->setDefault(true);
     window_->setText(QStringLiteral("工程门窗：") + ToQt(base_.Text("Text1")));
     notes_->setObjectName(QStringLiteral("lblNotes"));
     notes_->setWordWrap(true);

@@ -13,7 +13,7 @@ namespace {
 constexpr int kLeft = 44;
 constexpr int kRight = 26;
 constexpr int kTop = 34;
-constexpr int kBottom = 36;
+constexpr int kBottom = 42;
 constexpr QSize kSmallest(300, 220);
 constexpr double kHighest = kHeightMetres.back();
 constexpr int kHeightStep = 100;
@@ -64,7 +64,7 @@ void LoadChartView::PaintAxes(QPainter& painter, const QRectF& field) const {
         painter.drawText(QRectF(x - 30, field.bottom() + 4, 60, 16), Qt::AlignHCenter,
                          QString::number(height));
     }
-    painter.drawText(QRectF(field.left(), field.bottom() + 18, field.width(), 16), Qt::AlignRight,
+    painter.drawText(QRectF(field.left(), field.bottom() + 20, field.width(), 20), Qt::AlignRight,
                      QStringLiteral("高度 (m)"));
     painter.drawText(QRectF(4, 6, width(), 18), Qt::AlignLeft, QStringLiteral("Wk (kN/m²)"));
     painter.drawRect(field);

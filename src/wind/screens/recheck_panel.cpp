@@ -31,6 +31,10 @@ RecheckPanel::RecheckPanel(QWidget* parent) : QTextBrowser(parent) {
 void RecheckPanel::Show(const Recheck& recheck) {
     QString html =
         QStringLiteral("<h3>复核</h3><p>按同样的规范、用一致的单位（N、mm）再算一遍，与报告的结论对照。</p>");
+    if (recheck.Differs()) {
+        html += QStringLiteral(
+            "<p><b><font color=\"#c00000\">有与报告不同的结论，请按复核判断是否安全。</font></b></p>");
+    }
     for (const RecheckRow& row : recheck.rows) {
         html += QStringLiteral("<p><b>%1</b>").arg(Escaped(row.check)) + Line("公式", row.formula) +
                 Line("代入", row.numbers) + Line("结果", row.ResultText()) + Line("限值", row.LimitText()) +

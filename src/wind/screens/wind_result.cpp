@@ -1,7 +1,7 @@
 #include "wind/screens/wind_result.h"
 
+#include <QApplication>
 #include <QCheckBox>
-#include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTextEdit>
@@ -24,12 +24,13 @@ namespace {
 constexpr QSize kFirstSize(1120, 720);
 constexpr int kReportShare = 3;
 constexpr int kRecheckShare = 2;
+constexpr int kTabPixels = 48;
 constexpr int kListHeight = 170;
 const PageSetup kSheet{QPageSize::A4, QPageLayout::Portrait, {0, 0, 0, 0}};
 
 QTextCharFormat Letters(float points) {
     QTextCharFormat format;
-    format.setFontFamilies({QLatin1String(kSlidingFamily)});
+    format.setFontFamilies({QString::fromUtf8(kSlidingFamily), QApplication::font().family()});
     format.setFontPointSize(points);
     return format;
 }
@@ -75,6 +76,7 @@ WindResult::WindResult(const Look& look, CheckRun run, QWidget* parent)
       annex_(new QCheckBox(QStringLiteral("打印和保存时附上复核"), this)) {
     report_->setObjectName(QLatin1String(look.report));
     report_->setReadOnly(true);
+    report_->setTabStopDistance(kTabPixels);
     annex_->setObjectName(QStringLiteral("chkFH"));
     annex_->setChecked(true);
     auto* both = new QSplitter(Qt::Horizontal, this);
@@ -114,21 +116,15 @@ QWidget* WindResult::MakeList() {
         for (const std::string& text : row) texts << ToQt(text);
         list->AddRow(texts);
     }
-    OnSignal(list, &ReportList::itemSelectionChanged, this, [this, list] {
-        if (list->SelectedRow() >= 0) ShowCheck(static_cast<std::size_t>(list->SelectedRow()));
-    });
-    auto* panel = new QWidget(this);
-    auto* rows = new QVBoxLayout(panel);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->addWidget(list);
-    for (const ReportLine& line : table.closing) {
-        auto* skipped = new QLabel(ToQt(line.front()), panel);
-        skipped->setStyleSheet(QStringLiteral("color: #c00000"));
-        skipped->setWordWrap(true);
-        rows->addWidget(skipped);
+    for (const std::string& skipped : run_.skipped) {
+        list->AddRow({QString(), ToQt(skipped), QStringLiteral("未校核")});
     }
     list->setMaximumHeight(kListHeight);
-    return panel;
+    OnSignal(list, &ReportList::itemSelectionChanged, this, [this, list] {
+        const int row = list->SelectedRow();
+        if (row >= 0 && row < static_cast<int>(run_.checks.size())) ShowCheck(static_cast<std::size_t>(row));
+    });
+    return list;
 }
 
 void WindResult::ShowCheck(std::size_t place) {
