@@ -114,6 +114,8 @@ constexpr struct {
     {"x4", 4},
     {"mnuYouhua", 5},
     {"x5", 5},
+    {"mnuFYJH", 6},
+    {"x9", 6},
     {"mnuDatabaseManage", 7},
     {"x6", 7},
     {"mnuPath", 8},
@@ -165,6 +167,8 @@ TEST_F(MainScreenTest, EntriesAndButtonsOpenTheirScreens) {
     const char* const modal[][2] = {
         {"mnuYouhua", "frmYHMain"},
         {"x5", "frmYHMain"},
+        {"mnuFYJH", "frmFY"},
+        {"x9", "frmFY"},
         {"mnuDatabaseManage", "frmTools"},
         {"x6", "frmTools"},
         {"mnuPath", "frmSetting"},
