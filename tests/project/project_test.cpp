@@ -33,15 +33,18 @@ TEST_F(ProjectTest, ADeletedProjectTakesItsRowsAlong) {
 
 TEST_F(ProjectTest, AChangedWindowKeepsItsTypeAndADeletedOneTakesItsLabelsAlong) {
     const WindowEntry window{"C1", "东山墙", "1500", "1200", "32767", "0", "7", "5", ""};
-    for (const char* number : {"1", "2"}) EXPECT_EQ(AddWindow(*store_, window, {{{"B", "1", "2", "3"}}}), number);
-    UpdateWindow(*store_, {"C9", "北", "1", "2", "3", "备", "8", "6", "1"}, {{{"K", "a+1", "4912", "7125.4"}}});
+    for (const char* number : {"1", "2"})
+        EXPECT_EQ(AddWindow(*store_, window, {{{"B", "1", "2", "3"}}}), number);
+    UpdateWindow(*store_, {"C9", "北", "1", "2", "3", "备", "8", "6", "1"},
+                 {{{"K", "a+1", "4912", "7125.4"}}});
     EXPECT_EQ(Rows(kWindowColumns),
               "7|5|1|C9|北|1|2|~|3|备|~\n"
               "7|5|2|C1|东山墙|1500|1200|~|32767|0|~");
     EXPECT_EQ(Rows(kLabelColumns), "2|B|2|3|1\n1|K|4912|7125|a+1") << "positions in whole units";
     Insert({"标注2 (MCBN,MC) values(1,'B')"});
     DeleteWindow(*store_, "1");
-    EXPECT_EQ(Rows("Select 编号 from 工程门窗") + Rows("Select MC from 标注") + Rows("Select MC from 标注2"), "2B");
+    EXPECT_EQ(Rows("Select 编号 from 工程门窗") + Rows("Select MC from 标注") + Rows("Select MC from 标注2"),
+              "2B");
 }
 
 TEST_F(ProjectTest, WhatTheStoreRefuses) {

@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "page/page_record.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
+#include "page/page_record.h"
 
 namespace kalvane::test {
 
