@@ -2,9 +2,8 @@
 
 #include <iostream>
 
-#include "app/instance_lock.h"
-#include "app/store_setup.h"
 #include "batch/line_notice.h"
+#include "batch/locked_store.h"
 #include "formula/composite.h"
 #include "formula/expansion.h"
 #include "formula/labels.h"
@@ -18,9 +17,6 @@
 #include "platform/settings_store.h"
 #include "project/project_list.h"
 #include "project/project_windows.h"
-#include "store/dated_copies.h"
-#include "store/migration.h"
-#include "store/store_files.h"
 
 namespace kalvane {
 namespace {
@@ -33,28 +29,6 @@ void PrintRow(std::initializer_list<std::string_view> fields) {
     }
     std::cout << '\n';
 }
-
-/// A folder's main store, locked against a desktop program that would write at the same time.
-class LockedStore {
-  public:
-    explicit LockedStore(const std::filesystem::path& folder) : lock_(folder) {
-        if (!lock_.Acquire()) throw StoreError("另一个程序正在使用这个文件夹，请先关闭它。");
-        CreateMissingStores(folder);
-        const std::filesystem::path file = folder / kMainStoreName;
-        if (IsLost(file)) {
-            throw StoreError("数据库“" + file.filename().string() +
-                             "”不见了，但有它的副本。请启动桌面程序，用副本恢复。");
-        }
-        LineNotice notice;
-        MigrateStore(file, StoreKind::Main, notice);
-        connection_.emplace(file, StoreKind::Main);
-    }
-    Connection& Get() { return *connection_; }
-
-  private:
-    InstanceLock lock_;
-    std::optional<Connection> connection_;
-};
 
 std::string ProjectNumber(Connection& connection, const std::string& name) {
     for (const Project& project : ListProjects(connection)) {
@@ -122,7 +96,7 @@ void EvalCommand(const std::string& formula, const std::vector<std::string>& lab
 FolderCommands::FolderCommands(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
 void FolderCommands::Expand(const std::string& project) const {
-    LockedStore store(folder_);
+    LockedStore store(folder_, StoreKind::Main);
     LineNotice notice;
     FormulaRows rows(store.Get());
     for (const WindowEntry& entry : ListWindows(store.Get(), ProjectNumber(store.Get(), project))) {
@@ -140,7 +114,7 @@ void FolderCommands::Expand(const std::string& project) const {
 }
 
 void FolderCommands::Demand(const std::string& project) const {
-    LockedStore store(folder_);
+    LockedStore store(folder_, StoreKind::Main);
     GatherProject(store.Get(), project);
     for (Cursor row = store.Get().OpenCursor("Select * from 优化数据"); !row.Eof(); row.MoveNext()) {
         PrintRow({row.Field("编号").TextOrEmpty(), row.Field("名称").TextOrEmpty(),
@@ -150,7 +124,7 @@ void FolderCommands::Demand(const std::string& project) const {
 }
 
 void FolderCommands::Plan(const std::string& project, const RunOptions& options) const {
-    LockedStore store(folder_);
+    LockedStore store(folder_, StoreKind::Main);
     LineNotice notice;
     GatherProject(store.Get(), project);
     RunOptimisation(store.Get(), SettingsFor(options, notice), SchemeOf(options), ListMaterials(store.Get()),
@@ -162,7 +136,7 @@ void FolderCommands::Cut(const std::filesystem::path& demandFile, const std::str
                          const RunOptions& options) const {
     std::vector<ManualRow> rows;
     ReadDemandFile(demandFile, rows);
-    LockedStore store(folder_);
+    LockedStore store(folder_, StoreKind::Main);
     LineNotice notice;
     RunManual(store.Get(), SettingsFor(options, notice), SchemeOf(options), name, rows, notice, {});
     PrintPlan(store.Get());

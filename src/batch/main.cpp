@@ -2,6 +2,7 @@
 #include <iostream>
 
 #include "batch/commands.h"
+#include "batch/stock_commands.h"
 #include "batch/wind_commands.h"
 #include "numeric/error.h"
 
@@ -37,10 +38,12 @@ std::vector<std::string> Arguments(int argc, char* argv[]) {
 
 int Run(int argc, char* argv[]) {
     CLI::App application(
-        "Kalvane without a screen: formulas, bills of material, cutting plans and wind-pressure checks",
+        "Kalvane without a screen: formulas, bills of material, cutting plans, wind-pressure checks and the "
+        "warehouse",
         "kalvane-batch");
     application.require_subcommand(1);
     const WindCommands wind(application);
+    const StockCommands stock(application);
 
     std::string formula;
     std::vector<std::string> labels;

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 
+#include "batch/setting.h"
 #include "numeric/error.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
@@ -16,18 +17,6 @@
 
 namespace kalvane {
 namespace {
-
-struct Setting {
-    std::string name;
-    std::string text;
-};
-
-Setting ParsedSetting(const std::string& word) {
-    std::string_view rest = word;
-    const std::string_view name = TakeUpTo(rest, "=");
-    if (name.size() == word.size()) throw Error("“" + word + "”应写成 名称=值。");
-    return {std::string(name), FromOneLine(rest)};
-}
 
 void Print(const std::string& name, const std::string& value) {
     std::cout << name << '\t' << value << '\n';

@@ -25,21 +25,21 @@ EntryForm::EntryForm(const QString& name, const QString& title, std::vector<Entr
       boxes_(std::move(boxes)),
       slots_(slots),
       fields_(new QFormLayout),
-      promptTitle_(PromptTitle()) {
+      promptTitle_(PromptTitle()),
+      ok_(MakeButton("OKButton", QStringLiteral("确定 &Y"), this)),
+      cancel_(MakeButton("CancelButton", QStringLiteral("取消 &C"), this)) {
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
     fields_->setSpacing(10);
     for (const EntryBox& box : boxes_) {
         controls_ << MakeControl(box);
         fields_->addRow(box.caption, controls_.back());
     }
-    QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定 &Y"), this);
-    QPushButton* cancel = MakeButton("CancelButton", QStringLiteral("取消 &C"), this);
-    LayOutEntry(this, fields_, ok, cancel);
+    LayOutEntry(this, fields_, ok_, cancel_);
 
     for (qsizetype i = 0; i + 1 < controls_.size(); ++i) EnterMovesTo(controls_[i], controls_[i + 1]);
     OnEnter(controls_.back(), [this] { Confirm(); });
-    OnSignal(ok, &QPushButton::clicked, this, [this] { Confirm(); });
-    OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
+    OnSignal(ok_, &QPushButton::clicked, this, [this] { Confirm(); });
+    OnSignal(cancel_, &QPushButton::clicked, this, [this] { Leave(); });
     filled_ = Texts();
 }
 
@@ -89,6 +89,11 @@ void EntryForm::AddNote(const QString& text) {
     fields_->addRow(note);
 }
 
+void EntryForm::SetCaptions(const QString& ok, const QString& cancel) {
+    ok_->setText(ok);
+    cancel_->setText(cancel);
+}
+
 bool EntryForm::Run(const std::function<void()>& save) {
     save_ = save;
     return exec() == Accepted;
@@ -98,7 +103,7 @@ bool EntryForm::RefuseEmpty() {
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         QWidget* control = controls_[static_cast<qsizetype>(i)];
         if (boxes_[i].mayBeEmpty || !TextOf(control).isEmpty()) continue;
-        UseDialogs().Message(this, QStringLiteral("数据不能为空！"), promptTitle_, NoticeIcon::Information);
+        UseDialogs().Message(this, promptText_, promptTitle_, NoticeIcon::Information);
         control->setFocus();
         return true;
     }

@@ -11,6 +11,7 @@
 #include "ui/number_filter.h"
 
 class QFormLayout;
+class QPushButton;
 
 namespace kalvane {
 
@@ -47,6 +48,10 @@ class EntryForm : public EntryScreen {
     void AddNote(const QString& text);
     /// Title of "数据不能为空！"; "提示" if none is given.
     void SetPromptTitle(const QString& title) { promptTitle_ = title; }
+    /// What is said in its place.
+    void SetPromptText(const QString& text) { promptText_ = text; }
+    /// Captions of the two buttons in place of "确定 &Y" and "取消 &C".
+    void SetCaptions(const QString& ok, const QString& cancel);
 
     /// Shows the form until it is cancelled or `save` has ended well; false when cancelled.
     bool Run(const std::function<void()>& save = [] {});
@@ -68,6 +73,9 @@ class EntryForm : public EntryScreen {
     QList<QWidget*> controls_;
     QStringList filled_;
     QString promptTitle_;
+    QString promptText_ = QStringLiteral("数据不能为空！");
+    QPushButton* ok_;
+    QPushButton* cancel_;
     std::function<void()> save_;
 };
 

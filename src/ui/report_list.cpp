@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <algorithm>
 
@@ -249,6 +250,11 @@ void ReportList::keyPressEvent(QKeyEvent* event) {
     } else {
         QTreeWidget::keyPressEvent(event);
     }
+}
+
+void ReportList::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTreeWidget::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton) Q_EMIT DoubleClicked();
 }
 
 void ReportList::contextMenuEvent(QContextMenuEvent* event) {

@@ -56,10 +56,15 @@ class ReportList : public QTreeWidget {
     /// Makes it the one selected row and brings it into sight.
     void SelectRow(int row);
 
+  Q_SIGNALS:
+    /// A double click on a row, or where there is none.
+    void DoubleClicked();
+
   protected:
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:

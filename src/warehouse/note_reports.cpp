@@ -30,6 +30,7 @@ Report NoteReport(Connection& stock, NoteKind kind, std::string_view number) {
         report.heading.back().push_back(text);
     }
     if (report.heading.back().size() < kFieldsInLine) report.heading.back().emplace_back();
+    report.repeated = {report.heading.front()};
     for (const NoteLineField& field : layout.lineFields) {
         report.columns.push_back(ColumnFor(layout.lineTable, field.column));
     }

@@ -108,11 +108,12 @@ constexpr struct {
     const char* name;
     std::size_t right;
 } kEntries[] = {
-    {"mnuDrawPicture", 2},    {"x2", 2},           {"mnuProject", 4},  {"x4", 4},
-    {"mnuYouhua", 5},         {"x5", 5},           {"mnuFYJH", 6},     {"x9", 6},
-    {"mnuDatabaseManage", 7}, {"x6", 7},           {"mnuPath", 8},     {"mnuChangeBackgroup", 9},
-    {"mnuUserMng", 10},       {"mnuMdifyPwd", 11}, {"mnuClearCK", 12}, {"mnuExit", 0},
-    {"mnuAbout", 0},          {"mnuHelps", 0},     {"x7", 0},          {"x8", 0},
+    {"mnuDrawPicture", 2},    {"x2", 2},           {"mnuProject", 4}, {"x4", 4},
+    {"mnuYouhua", 5},         {"x5", 5},           {"mnuFYJH", 6},    {"x9", 6},
+    {"mnuDatabaseManage", 7}, {"x6", 7},           {"mnuPath", 8},    {"mnuChangeBackgroup", 9},
+    {"mnuUserMng", 10},       {"mnuMdifyPwd", 11}, {"mnuInput", 12},  {"mnuOutput", 12},
+    {"mnuQuery", 12},         {"mnuClearCK", 12},  {"mnuExit", 0},    {"mnuAbout", 0},
+    {"mnuHelps", 0},          {"x7", 0},           {"x8", 0},
 };
 
 TEST_F(MainScreenTest, RightsEnableEntries) {
@@ -159,6 +160,9 @@ TEST_F(MainScreenTest, EntriesAndButtonsOpenTheirScreens) {
         {"mnuPath", "frmSetting"},
         {"mnuUserMng", "frmUserMng"},
         {"mnuMdifyPwd", "frmUserChangPwd"},
+        {"mnuInput", "FrmEnter"},
+        {"mnuOutput", "FrmPost"},
+        {"mnuQuery", "FrmQuery"},
         {"mnuAbout", "frmAbort"},
         {"mnuHelps", "frmHelp"},
         {"x7", "frmHelp"},
@@ -177,7 +181,11 @@ TEST_F(MainScreenTest, ClearingTheWarehouseEmptiesAllFiveTables) {
     MDIMain frame;
     frame.Load();
     Trigger(frame, "mnuClearCK");
-    EXPECT_EQ(dialogs_.TakeShown(), "提示|操作已完成!");
+    ASSERT_EQ(dialogs_.shown.size(), 2);
+    EXPECT_EQ(dialogs_.shown[0], QStringLiteral("提示|操作已完成!"));
+    const std::filesystem::path copy = dialogs_.shown[1].section(QStringLiteral("："), 1).toStdString();
+    Connection kept(copy, StoreKind::Stock);
+    EXPECT_EQ(test::Rows(kept, "Select 单据编号 from 出库单子表"), "7");
     for (const std::string& table : tables) {
         EXPECT_EQ(test::Rows(App().Stock(), "Select * from " + table), "") << table;
     }

@@ -10,8 +10,10 @@
 #include "support/store_rows.h"
 #include "support/temp_folder.h"
 #include "warehouse/clear_stock.h"
+#include "warehouse/material_proposals.h"
 #include "warehouse/note_reports.h"
 #include "warehouse/stock_query.h"
+#include "warehouse/stock_shortage.h"
 
 namespace kalvane::test {
 namespace {
@@ -276,6 +278,37 @@ TEST_F(WarehouseTest, ReportsTakeTheWordsOfTheNote) {
     EXPECT_EQ(StockReport(*store_).rows[0],
               (std::vector<std::string>{"料A", "A", "甲厂", "支", "型材", "10", "7"}));
     EXPECT_NE(Refusal([&] { NoteReport(*store_, NoteKind::In, "9"); }), "");
+}
+
+TEST_F(WarehouseTest, MaterialsAreProposedFromTheStockAndTheCatalogue) {
+    ConfirmNote(*store_, NoteKind::In, Note("1", {Line("A", "1", "2"), Line("A", "1", "3.5")}));
+    const std::filesystem::path file = folder_ / kMainStoreName;
+    CreateStore(file, StoreKind::Main);
+    Connection catalogue(file, StoreKind::Main);
+    catalogue.Execute("Insert into 型材 (型材名称,型材型号) values('上滑','A')");  // in stock already
+    catalogue.Execute("Insert into 型钢 (型钢名称,型钢规格) values('衬钢','G1')");
+    catalogue.Execute("Insert into 玻璃 (玻璃名称) values('5mm白玻')");
+    catalogue.Execute("Insert into 配件 (配件名称,配件规格,配件单位) values('月牙锁','S2','把   ')");
+    std::string proposed;
+    for (const NoteLine& material : ProposedMaterials(*store_, &catalogue)) {
+        proposed += material.name + "," + material.code + "," + material.unit + "," + material.kind + ";";
+    }
+    EXPECT_EQ(proposed, "料A,A,支,型材;衬钢,G1,支,型钢;5mm白玻,5mm白玻,块,板材;月牙锁,S2,把,五金件;");
+    EXPECT_EQ(ProposedMaterials(*store_, nullptr).size(), 1U);
+    EXPECT_EQ(LastPrice(*store_, "A") + LastPrice(*store_, "G1"), "3.5");
+}
+
+TEST_F(WarehouseTest, ShortagesAreThoseOfTheLinesTogether) {
+    ConfirmNote(*store_, NoteKind::In, Note("1", {Line("A", "10"), Line("B", "4")}));
+    const std::vector<NoteLine> lines = {Line("A", "6"), Line("B", "4"), Line("A", "5")};
+    EXPECT_EQ(ShortageText(FindShortages(*store_, lines)), "规格“A”：出库 11，库存 10");
+}
+
+TEST_F(WarehouseTest, ClearingKeepsACopy) {
+    ConfirmNote(*store_, NoteKind::In, Note("1", {Line("A", "10")}));
+    Connection copy(ClearStockKeepingCopy(*store_), StoreKind::Stock);
+    EXPECT_EQ(test::Rows(copy, "Select 规格 from 库存表"), "A");
+    EXPECT_EQ(Rows("Select * from 库存表"), "");
 }
 
 }  // namespace

@@ -13,11 +13,15 @@
 #include "platform/settings_store.h"
 #include "project/screens/choose_windows.h"
 #include "session/app_state.h"
+#include "store/helpers.h"
 #include "ui/dialogs.h"
 #include "ui/main_frame.h"
 #include "ui/text.h"
 #include "ui/text_screen.h"
 #include "warehouse/clear_stock.h"
+#include "warehouse/screens/FrmEnter.h"
+#include "warehouse/screens/FrmPost.h"
+#include "warehouse/screens/FrmQuery.h"
 #include "wind/screens/FrmMainFY01.h"
 #include "wind/screens/frmFY.h"
 
@@ -38,9 +42,20 @@ void ChangeBackground(MDIMain& frame) {
     App().settings->Save(kSettingsApplication, kSectionMain, "BACKGROUP", FromQt(file));
 }
 
+void ShowGoodsIn(MDIMain& frame) {
+    App().enterNoteNumber = NextEnterNo(App().Stock());
+    FrmEnter(App().enterNoteNumber, &frame).exec();
+}
+
+void ShowGoodsOut(MDIMain& frame) {
+    App().postNoteNumber = NextPostNo(App().Stock());
+    FrmPost(App().postNoteNumber, &frame).exec();
+}
+
 void ClearWarehouse(MDIMain& frame) {
-    ClearStock(App().Stock());
+    const std::filesystem::path copy = ClearStockKeepingCopy(App().Stock());
     Tell(&frame, QStringLiteral("操作已完成!"));
+    Tell(&frame, QStringLiteral("清空前的仓库保存在：%1").arg(ToQt(copy.string())));
 }
 
 void ShowWindCheck(MDIMain& frame) {
@@ -116,11 +131,11 @@ const std::vector<MainMenu>& MainMenus() {
          Right::Stock,
          {
              {QStringLiteral("mnuInput"), QStringLiteral("入库"), QStringLiteral("goods_in"), Right::Stock,
-              nullptr},
+              [](MDIMain& frame) { ShowGoodsIn(frame); }},
              {QStringLiteral("mnuOutput"), QStringLiteral("出库"), QStringLiteral("goods_out"), Right::Stock,
-              nullptr},
+              [](MDIMain& frame) { ShowGoodsOut(frame); }},
              {QStringLiteral("mnuQuery"), QStringLiteral("查寻"), QStringLiteral("query"), Right::Stock,
-              nullptr},
+              [](MDIMain& frame) { FrmQuery(&frame).exec(); }},
              {QStringLiteral("mnuClearCK"), QStringLiteral("清空仓库"), QStringLiteral("clear"), Right::Stock,
               [](MDIMain& frame) { ClearWarehouse(frame); }},
          }},

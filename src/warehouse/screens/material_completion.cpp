@@ -1,0 +1,64 @@
+#include "warehouse/screens/material_completion.h"
+
+#include <QComboBox>
+#include <QCompleter>
+#include <QLineEdit>
+#include <algorithm>
+#include <memory>
+
+#include "session/app_state.h"
+#include "ui/guard.h"
+#include "ui/text.h"
+#include "warehouse/material_proposals.h"
+
+namespace kalvane {
+namespace {
+
+using Materials = std::shared_ptr<const std::vector<NoteLine>>;
+
+QLineEdit* Box(const QWidget* form, const char* name) {
+    return form->findChild<QLineEdit*>(QLatin1String(name));
+}
+
+void FillIfEmpty(QLineEdit* box, const std::string& text) {
+    if (box->text().isEmpty()) box->setText(ToQt(text));
+}
+
+void Fill(QWidget* form, const NoteLine& material) {
+    FillIfEmpty(Box(form, "TxtMC"), material.name);
+    FillIfEmpty(Box(form, "TxtGG"), material.code);
+    FillIfEmpty(Box(form, "TxtDW"), material.unit);
+    FillIfEmpty(Box(form, "TxtDJ"), LastPrice(App().Stock(), material.code));
+    auto* kinds = form->findChild<QComboBox*>(QStringLiteral("CmbZL"));
+    if (kinds->currentIndex() < 0) kinds->setCurrentIndex(kinds->findText(ToQt(material.kind)));
+}
+
+/// Completes one box, and fills the others once its text names a material.
+void Complete(QWidget* form, QLineEdit* box, std::string NoteLine::*member, const Materials& materials) {
+    QStringList texts;
+    for (const NoteLine& material : *materials) texts << ToQt(material.*member);
+    texts.removeDuplicates();
+    auto* completer = new QCompleter(texts, box);
+    completer->setFilterMode(Qt::MatchContains);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    box->setCompleter(completer);
+    OnSignal(box, &QLineEdit::editingFinished, form, [=] {
+        const std::string text = FromQt(box->text());
+        const auto isNamed = [&](const NoteLine& material) { return material.*member == text; };
+        const auto found = std::find_if(materials->begin(), materials->end(), isNamed);
+        if (found == materials->end()) return;
+        // A name that several materials share says nothing about the rest.
+        if (std::none_of(std::next(found), materials->end(), isNamed)) Fill(form, *found);
+    });
+}
+
+}  // namespace
+
+void CompleteMaterials(QWidget* form) {
+    const auto materials = std::make_shared<const std::vector<NoteLine>>(
+        ProposedMaterials(App().Stock(), App().mainConnection.get()));
+    Complete(form, Box(form, "TxtMC"), &NoteLine::name, materials);
+    Complete(form, Box(form, "TxtGG"), &NoteLine::code, materials);
+}
+
+}  // namespace kalvane
