@@ -64,13 +64,15 @@ TEST_F(WarehouseFlow, GoodsInIsCheckedBoxByBoxAndConfirmed) {
                 }
                 Press(note, "OKButton");
                 EXPECT_EQ(note.focusWidget()->objectName(), QStringLiteral("CmdAdd"));
-                EXPECT_EQ(dialogs_.TakeShown().count(Said({"数据不完整!请重新输入。"})[0]), 5);
+                EXPECT_EQ(std::exchange(dialogs_.shown, {}).count(Said({"数据不完整!请重新输入。"})[0]), 5);
                 Press(note, "CmdDel");
-                EXPECT_EQ(dialogs_.TakeShown(), Said({"无选取您要删除的记录!"}));
+                EXPECT_EQ(std::exchange(dialogs_.shown, {}), Said({"无选取您要删除的记录!"}));
 
                 Press(note, "CmdAdd");
                 Press(note, "CmdAdd");
                 EXPECT_EQ(Table(note, "LVW"), "上滑|A|支|2.5|10|型材\n上滑|B|支|12|3|型材");
+                note.activateWindow();
+                ASSERT_TRUE(QTest::qWaitForWindowActive(&note));
                 Find<ReportList>(&note, "LVW")->setFocus();
                 QTest::keyClick(Find<ReportList>(&note, "LVW"), Qt::Key_F2);
                 EXPECT_EQ(Table(note, "LVW"), "上滑|A|支|2.5|10|型材\n上滑|C|支|1.5|2|型材");
@@ -79,7 +81,7 @@ TEST_F(WarehouseFlow, GoodsInIsCheckedBoxByBoxAndConfirmed) {
                 SetText(note, "TxtCGY", "名字比十个字符还要长的人");
                 Press(note, "OKButton");  // the store refuses it
                 EXPECT_EQ(note.focusWidget()->objectName(), QStringLiteral("TxtCGY"));
-                EXPECT_EQ(dialogs_.TakeShown().size(), 1);
+                EXPECT_EQ(std::exchange(dialogs_.shown, {}).size(), 1);
                 EXPECT_EQ(Find<ReportList>(&note, "LVW")->RowCount(), 2) << "typed lines stay";
                 SetText(note, "TxtCGY", "乙");
                 App().Stock().Execute("Insert into 入库单 (单据编号) values(4)");
@@ -90,11 +92,11 @@ TEST_F(WarehouseFlow, GoodsInIsCheckedBoxByBoxAndConfirmed) {
         .On("frmEnterData",
             [&](QDialog& line) {
                 Press(line, "OKButton");
-                EXPECT_EQ(dialogs_.TakeShown(), Said({"数据不完整!请重新输入。"}));
+                EXPECT_EQ(std::exchange(dialogs_.shown, {}), Said({"数据不完整!请重新输入。"}));
                 EXPECT_EQ(line.focusWidget()->objectName(), QStringLiteral("TxtMC"));
                 EnterLine("A", "2..5", "1x0")(line);  // the filter lets no letter in
                 EXPECT_EQ(line.focusWidget()->objectName(), QStringLiteral("TxtDJ"));
-                EXPECT_EQ(dialogs_.TakeShown().size(), 1);
+                EXPECT_EQ(std::exchange(dialogs_.shown, {}).size(), 1);
                 SetText(line, "TxtDJ", "2.5");
                 Press(line, "OKButton");
             })
@@ -106,7 +108,8 @@ TEST_F(WarehouseFlow, GoodsInIsCheckedBoxByBoxAndConfirmed) {
                 EnterLine("C", "1.5", "2")(line);
             })
         .Run([&] { Open("mnuInput"); });
-    EXPECT_EQ(dialogs_.TakeShown(), Said({"编号 1 已被另一张单据使用。用编号 5 保存这张单据吗？"}));
+    EXPECT_EQ(std::exchange(dialogs_.shown, {}),
+              Said({"编号 1 已被另一张单据使用。用编号 5 保存这张单据吗？"}));
     // 2.5*10 + 1.5*2 = 28
     EXPECT_EQ(Stock("Select 采购金额,采购员 from 入库单 where 单据编号=5"), "28|乙");
     EXPECT_EQ(Stock("Select 采购日期 from 入库单 where 单据编号=5"),
@@ -123,7 +126,7 @@ TEST_F(WarehouseFlow, GoodsOutIsPickedFromTheStock) {
                 Press(note, "CmdDel");
                 Press(note, "CmdAdd");
                 EXPECT_EQ(Table(note, "LVW"), "上滑|A|支|10|型材\n上滑|A|支|1|型材");
-                dialogs_.TakeShown();
+                std::exchange(dialogs_.shown, {});
                 dialogs_.answers = {false, true};
                 for (int i = 0; i < 2; ++i) {
                     EXPECT_TRUE(note.isVisible());
@@ -140,7 +143,7 @@ TEST_F(WarehouseFlow, GoodsOutIsPickedFromTheStock) {
                 Press(pick, "OKButton");
                 Find<QComboBox>(&pick, "CmbZL")->setCurrentIndex(0);
                 EXPECT_EQ(Table(pick, "LvwR"), "上滑|A|支|10|型材");
-                EXPECT_EQ(dialogs_.TakeShown(),
+                EXPECT_EQ(std::exchange(dialogs_.shown, {}),
                           Said({"无选取所要删除的记录!", "无选中记录!", "数据不完整!请重新输入。"}));
                 stock->SelectRow(0);
                 for (const char* count : {"", "0", "11", "10", "1"}) {
@@ -148,12 +151,13 @@ TEST_F(WarehouseFlow, GoodsOutIsPickedFromTheStock) {
                     SetText(pick, "TxtSL", count);
                     Press(pick, "OKButton");
                 }
-                EXPECT_EQ(dialogs_.TakeShown(), Said({"数据不能为0!请重新输入。", "数据不能为0!请重新输入。",
-                                                      "数据不能大于10,请重新输入!"}));
+                EXPECT_EQ(std::exchange(dialogs_.shown, {}),
+                          Said({"数据不能为0!请重新输入。", "数据不能为0!请重新输入。",
+                                "数据不能大于10,请重新输入!"}));
                 Press(pick, "CancelButton");
             })
         .Run([&] { Open("mnuOutput"); });
-    EXPECT_EQ(dialogs_.TakeShown().back(),
+    EXPECT_EQ(std::exchange(dialogs_.shown, {}).back(),
               Said({"下面的材料出库后库存量将小于零：\n规格“A”：出库 11，库存 10\n仍要出库吗？"})[0]);
     EXPECT_EQ(Stock("Select 规格,入库量,库存量 from 库存表"), "A|10|-1");
     EXPECT_EQ(Stock("Select 单据编号,说明 from 出库单"), "1|甲");
@@ -182,7 +186,7 @@ TEST_F(WarehouseFlow, TheQueryFiltersPreviewsPrintsAndExports) {
                 filter(6, "x");
                 filter(0, "x");
                 EXPECT_EQ(Find<QLineEdit>(&query, "TxtZDZ")->selectedText(), QStringLiteral("x"));
-                EXPECT_EQ(dialogs_.TakeShown(),
+                EXPECT_EQ(std::exchange(dialogs_.shown, {}),
                           Said({"字段名不能为空!", "字段值不能为空!",
                                 "数据是日期类型(2002-03-04),请正确输入!", "数据是数值类型,请正确输入!"}));
                 EXPECT_EQ(list->columnCount(), 0) << "no query has run yet";
@@ -190,7 +194,7 @@ TEST_F(WarehouseFlow, TheQueryFiltersPreviewsPrintsAndExports) {
                 EXPECT_EQ(Table(query, "LVW"), "2|甲|20|甲|甲|甲|2002-03-04");
                 filter(3, "'");
                 EXPECT_EQ(list->RowCount(), 1) << "a refused statement leaves the list";
-                EXPECT_EQ(dialogs_.TakeShown().size(), 1);
+                EXPECT_EQ(std::exchange(dialogs_.shown, {}).size(), 1);
                 Press(query, "CmdAll");
                 EXPECT_EQ(list->RowCount(), 2);
                 EXPECT_EQ(TextIn(query, "TxtZDZ"), QStringLiteral("'"));
@@ -198,7 +202,7 @@ TEST_F(WarehouseFlow, TheQueryFiltersPreviewsPrintsAndExports) {
                 list->clearSelection();
                 QTest::mouseDClick(list->viewport(), Qt::LeftButton, {},
                                    list->viewport()->rect().bottomRight());
-                EXPECT_EQ(dialogs_.TakeShown(), Said({"无选取对象,不能预览更多的信息!"}));
+                EXPECT_EQ(std::exchange(dialogs_.shown, {}), Said({"无选取对象,不能预览更多的信息!"}));
                 list->SelectRow(0);
                 QTest::mouseDClick(list->viewport(), Qt::LeftButton, {},
                                    list->visualItemRect(list->topLevelItem(0)).center());
