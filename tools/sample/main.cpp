@@ -57,6 +57,11 @@ void Press(QWidget* screen, const char* button) {
     Control<QAbstractButton>(screen, button)->click();
 }
 
+/// Closes a screen without its question about what was typed.
+void Leave(QWidget* screen) {
+    qobject_cast<QDialog*>(screen)->done(QDialog::Rejected);
+}
+
 void TakePicture(QWidget* screen, const QString& name) {
     QApplication::processEvents();
     screen->grab().save(ToQt((out / (FromQt(name) + ".png")).string()));
@@ -202,7 +207,7 @@ void ShowModal(MDIMain& frame, const char* entry, const QString& name,
     WhenShown(name, [=](QWidget* screen) {
         if (work) work(screen);
         TakePicture(screen, name);
-        screen->close();
+        Leave(screen);
     });
     frame.findChild<QAction*>(QLatin1String(entry))->trigger();
 }
@@ -234,12 +239,63 @@ void ShowManualList(MDIMain& frame) {
                 Press(screen, "CmdAdd");
             }
             TakePicture(screen, "frmHandup");
-            screen->close();
+            Leave(screen);
         });
         module->findChild<QAction*>("Toolbar1(4)")->trigger();
         module->close();
     });
     frame.findChild<QAction*>("mnuYouhua")->trigger();
+}
+
+void Choose(QWidget* screen, const char* list, const char* text) {
+    Control<QComboBox>(screen, list)->setCurrentText(QString::fromUtf8(text));
+}
+
+/// A window of the sample project, chosen by its name for a wind check.
+void TakeWindow(QWidget* screen, const QString& name) {
+    WhenShown("frmFYGC", [name](QWidget* choice) {
+        auto* windows = Control<ReportList>(choice, "Lvw");
+        for (int row = 0; row < windows->RowCount(); ++row) {
+            if (windows->Text(row, 0) == name) windows->SelectRow(row);
+        }
+        Press(choice, "OKButton");
+    });
+    Press(screen, "CmdQZGC");
+}
+
+/// Both wind checks, each to its report as PDF.
+void ShowWindChecks(MDIMain& frame) {
+    App().windCheckOption = 1;
+    ShowModal(frame, "mnuFYJH", "frmFY", [](QWidget* screen) {
+        Choose(screen, "cmbDMCCD", "B类");
+        Choose(screen, "cmbJZGD", "30米");
+        TakeWindow(screen, "C17");
+        WhenShown("frmFyResult", [](QWidget* result) {
+            TakePicture(result, "frmFyResult");
+            SavePdf(result, "Command1", "wind-sliding");
+            Press(result, "OKButton");
+        });
+        Press(screen, "Command1");
+    });
+    App().windCheckOption = 0;
+    ShowModal(frame, "mnuFYJH", "FrmMainFY01", [](QWidget* base) {
+        Choose(base, "Combo3", "30");
+        Choose(base, "Combo1", "一般高层建筑物");
+        Choose(base, "Combo2", "B类");
+        Control<QLineEdit>(base, "Text6")->setText("1.64");
+        WhenShown("frmFY01", [](QWidget* detail) {
+            TakeWindow(detail, "C1");
+            TakePicture(detail, "frmFY01");
+            WhenShown("FrmResultFY01", [](QWidget* result) {
+                TakePicture(result, "FrmResultFY01");
+                SavePdf(result, "CmdPrint", "wind-full");
+                WhenShown("frmFY01", [](QWidget* again) { Press(again, "CancelButton"); });
+                Press(result, "OKButton");
+            });
+            Press(detail, "OKButton");
+        });
+        Press(base, "CmdNext");
+    });
 }
 
 void SavePlan(const std::string& name) {
@@ -283,11 +339,12 @@ void Run() {
     SavePlan("plan-scheme-2");
     SaveWindowPictures();
     ShowManualList(frame);
+    ShowWindChecks(frame);
     ShowModal(frame, "mnuDatabaseManage", "frmTools", [](QWidget* tools) {
         WhenShown("frmSaveFile", [](QWidget* screen) {
             Control<QLineEdit>(screen, "TxtFileName")->setText("2026年11月");
             TakePicture(screen, "frmSaveFile");
-            screen->close();
+            Leave(screen);
         });
         Press(tools, "CmdBackup");
     });
