@@ -33,7 +33,7 @@ WindowBoxes::WindowBoxes(QWidget* parent) : QWidget(parent) {
         grid->addWidget(new QLabel(captions[i], this), row, column);
         grid->addWidget(boxes_[i], row, column + 1);
     }
-    for (const std::size_t number : {2, 3, 4}) NumberFilter::Set(boxes_[number], NumberKeys::Digits);
+    for (const std::size_t number : {2U, 3U, 4U}) NumberFilter::Set(boxes_[number], NumberKeys::Digits);
 }
 
 void WindowBoxes::Show(const WindowEntry& window) {
