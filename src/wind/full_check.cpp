@@ -64,7 +64,11 @@ void CheckGlass(const FullLoad& load, const FormTexts& detail, FullNumbers& numb
     numbers.bending = AtMost(slenderness * 6 * numbers.q1 * (load.wd / 1e6),
                              numbers.isTempered ? kTemperedStrength : kEdgeStrength);
 
-    numbers.span = Checked16(std::int64_t{load.highest} - load.lowest);
+    const int span = int{load.highest} - load.lowest;
+    if (span != static_cast<std::int16_t>(span)) {
+        throw NumericError("溢出：最高温度与最低温度之差超出范围，请改正后再校核。");
+    }
+    numbers.span = static_cast<std::int16_t>(span);
     numbers.c = detail.LeadingDouble("Text8");
     const double gap = (2 * numbers.c - kEdgeGap) / numbers.longer;
     numbers.temperature = AtMost(kGlassElasticity * (kExpansion * numbers.span - gap), kEdgeStrength);

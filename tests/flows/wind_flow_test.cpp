@@ -176,7 +176,8 @@ TEST_F(WindFlow, FullCheckGoesForthAndBackWithoutLosingWhatWasTyped) {
                 SetText(base, "Text6", "1.92");
                 Press(base, "CmdNext");
                 EXPECT_EQ(TextIn(base, "Text1"), "示例工程 C17");
-                Press(base, "Command2");
+                Press(base, "CmdNext");
+                QTest::keyClick(&base, Qt::Key_Escape);  // the report holds what was typed: no question
             })
         .On("frmFY01",
             [&](QDialog& detail) {
@@ -215,6 +216,7 @@ TEST_F(WindFlow, FullCheckGoesForthAndBackWithoutLosingWhatWasTyped) {
                 Press(result, "OKButton");
             })
         .On("frmFY01", [](QDialog& detail) { Press(detail, "CancelButton"); })
+        .On("frmFY01", [](QDialog& detail) { EXPECT_EQ(TextIn(detail, "Text2"), "1800"); })
         .Run([] { FrmMainFY01(ChooseWindowsForCheck, nullptr).exec(); });
 }
 

@@ -57,13 +57,16 @@ void FrmMainFY01::Next() {
         return TellAt(this, ToQt(refusal->message), controls_.Control(refusal->name));
     }
     FindFullLoad(texts);  // so that a number beyond its width is reported here
-    frmFY01 detail(choose_, texts, this);
+    frmFY01 detail(choose_, {texts, window_}, this);
+    bool isReported = false;
     while (detail.exec() == Accepted) {
         RememberSite(*App().settings, {texts.Text("Text2"), texts.Text("Text3")});
-        kept_ = texts;
+        isReported = true;
         ShowFullResult(detail.Run(), &detail);
     }
-    controls_.Box("Text1")->setText(ToQt(detail.Base().Text("Text1")));
+    window_ = detail.Texts().detail;
+    controls_.Show(detail.Texts().base);
+    if (isReported) kept_ = controls_.Texts();
 }
 
 void FrmMainFY01::PrintCover() {

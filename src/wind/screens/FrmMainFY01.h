@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/entry_screen.h"
+#include "wind/full_form.h"
 #include "wind/screens/form_controls.h"
 #include "wind/screens/wind_roads.h"
 
@@ -24,7 +25,8 @@ class FrmMainFY01 : public EntryScreen {
 
     const ChooseWindows choose_;
     FormControls controls_;
-    FormTexts kept_;  ///< what the last report holds
+    FormTexts kept_;                       ///< what the last report holds
+    FormTexts window_{FullDetailBoxes()};  ///< as it was last typed in frmFY01
     LoadChartView* chart_;
 };
 

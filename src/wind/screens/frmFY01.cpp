@@ -9,22 +9,21 @@
 #include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/text.h"
-#include "wind/full_form.h"
 #include "wind/take_window.h"
 
 namespace kalvane {
 
-frmFY01::frmFY01(ChooseWindows choose, FormTexts base, QWidget* parent)
+frmFY01::frmFY01(ChooseWindows choose, const FullTexts& texts, QWidget* parent)
     : EntryScreen(QStringLiteral("frmFY01"), QStringLiteral("风压校核设置"), parent),
       choose_(std::move(choose)),
-      base_(std::move(base)),
+      base_(texts.base),
       controls_(FullDetailBoxes(), this),
       window_(new QLabel(this)),
       notes_(new QLabel(this)),
       check_(MakeButton("OKButton", QStringLiteral("校核"), this)) {
     controls_.Box("Text5")->setReadOnly(true);
     check_->setDefault(true);
-    window_->setText(QStringLiteral("工程门窗：") + ToQt(base_.Text("Text1")));
+    ShowWindow(texts);
     notes_->setObjectName(QStringLiteral("lblNotes"));
     notes_->setWordWrap(true);
     notes_->setStyleSheet(QStringLiteral("color: #c00000"));
@@ -55,6 +54,12 @@ frmFY01::frmFY01(ChooseWindows choose, FormTexts base, QWidget* parent)
     OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
 }
 
+void frmFY01::ShowWindow(const FullTexts& texts) {
+    base_ = texts.base;
+    controls_.Show(texts.detail);
+    window_->setText(QStringLiteral("工程门窗：") + ToQt(base_.Text("Text1")));
+}
+
 void frmFY01::ShowRatio() {
     const QString width = controls_.Box("Text11")->text();
     const QString length = controls_.Box("Text12")->text();
@@ -65,7 +70,7 @@ void frmFY01::ShowRatio() {
 void frmFY01::TakeFromProject() {
     const std::vector<ProjectWindow> windows = choose_(this);
     if (windows.empty()) return;
-    FullTexts texts{base_, controls_.Texts()};
+    FullTexts texts = Texts();
     if (windows.size() > 1) {
         run_ = RunFullChecks(texts, windows);
         accept();
@@ -74,13 +79,11 @@ void frmFY01::TakeFromProject() {
     QStringList lines;
     for (const std::string& note : TakeFullWindow(texts, windows.front())) lines << ToQt(note);
     notes_->setText(lines.join(QLatin1Char('\n')));
-    base_ = texts.base;
-    controls_.Show(texts.detail);
-    window_->setText(QStringLiteral("工程门窗：") + ToQt(base_.Text("Text1")));
+    ShowWindow(texts);
 }
 
 void frmFY01::Check() {
-    run_ = {{CheckFullWindow({base_, controls_.Texts()})}, {}};
+    run_ = {{CheckFullWindow(Texts())}, {}};
     accept();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/entry_screen.h"
+#include "wind/full_form.h"
 #include "wind/screens/form_controls.h"
 #include "wind/screens/wind_roads.h"
 #include "wind/window_run.h"
@@ -16,12 +17,13 @@ class frmFY01 : public EntryScreen {
     Q_OBJECT
 
   public:
-    frmFY01(ChooseWindows choose, FormTexts base, QWidget* parent);
+    frmFY01(ChooseWindows choose, const FullTexts& texts, QWidget* parent);
 
-    const FormTexts& Base() const { return base_; }
+    FullTexts Texts() const { return {base_, controls_.Texts()}; }
     const CheckRun& Run() const { return run_; }
 
   private:
+    void ShowWindow(const FullTexts& texts);
     void ShowRatio();
     void TakeFromProject();
     void Check();
