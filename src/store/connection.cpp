@@ -64,6 +64,15 @@ ColumnType DeclaredType(const char* declared) {
     return type == "DATETIME" ? ColumnType::DateTime : ColumnType::Memo;
 }
 
+FieldValue NumberField(const PreparedStatement& statement, int column) {
+    const ColumnType type = statement.types[static_cast<std::size_t>(column)];
+    const double real = sqlite3_column_double(statement.handle, column);
+    if (type == ColumnType::DateTime && IsDate(real)) return FieldValue(Date{real});
+    if (type == ColumnType::Float32) return FieldValue(static_cast<float>(real));
+    if (sqlite3_column_type(statement.handle, column) == SQLITE_FLOAT) return FieldValue(real);
+    return FieldValue(std::int64_t{sqlite3_column_int64(statement.handle, column)});
+}
+
 EngineValue ArgumentValue(sqlite3_value* argument) {
     switch (sqlite3_value_type(argument)) {
         case SQLITE_INTEGER:
@@ -221,17 +230,12 @@ int Connection::Implementation::Step(PreparedStatement& statement) {
 }
 
 FieldValue Connection::Implementation::ReadField(const PreparedStatement& statement, int column) {
-    const ColumnType type = statement.types[static_cast<std::size_t>(column)];
-    const double real = sqlite3_column_double(statement.handle, column);
     switch (sqlite3_column_type(statement.handle, column)) {
         case SQLITE_NULL:
             return {};
         case SQLITE_INTEGER:
-            if (type == ColumnType::DateTime && IsDate(real)) return FieldValue(Date{real});
-            return FieldValue(std::int64_t{sqlite3_column_int64(statement.handle, column)});
         case SQLITE_FLOAT:
-            if (type == ColumnType::DateTime && IsDate(real)) return FieldValue(Date{real});
-            return type == ColumnType::Float32 ? FieldValue(static_cast<float>(real)) : FieldValue(real);
+            return NumberField(statement, column);
         default:
             return FieldValue(
                 std::string(reinterpret_cast<const char*>(sqlite3_column_text(statement.handle, column)),
