@@ -1,6 +1,7 @@
 #include "app/enc_decrypt.h"
 
 namespace kalvane::test {
+namespace {
 
 const clsEncDecrypt kScrambler;
 
@@ -35,4 +36,5 @@ TEST(EncDecrypt, ReadsScrambledTextsAndNothingElse) {
     }
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -10,6 +10,7 @@
 #include "support/temp_folder.h"
 
 namespace kalvane::test {
+namespace {
 
 TEST(InstanceLock, IsHeldByOneAndFreedWithItAlsoByAKill) {
     const TempFolder folder;
@@ -41,4 +42,5 @@ TEST(InstanceLock, IsHeldByOneAndFreedWithItAlsoByAKill) {
     close(ready[1]);
 }
 
+}  // namespace
 }  // namespace kalvane::test

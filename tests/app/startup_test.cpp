@@ -12,6 +12,7 @@
 #include "support/raw_store.h"
 
 namespace kalvane::test {
+namespace {
 
 class StartupTest : public MainStoreTest {
   protected:
@@ -146,4 +147,5 @@ TEST(RunMarker, ExistsAfterAnUncleanEndOnly) {
     RunMarker(folder / "missing").Set();  // told by what fails next
 }
 
+}  // namespace
 }  // namespace kalvane::test

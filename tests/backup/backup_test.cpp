@@ -11,6 +11,7 @@
 #include "support/store_content.h"
 
 namespace kalvane::test {
+namespace {
 
 class BackupTest : public MainStoreTest {
   protected:
@@ -141,4 +142,5 @@ TEST_F(BackupTest, ARestoreThatAKillCutOffIsOfferedToBeUndone) {
     EXPECT_EQ(ContentOf(store), before);
 }
 
+}  // namespace
 }  // namespace kalvane::test

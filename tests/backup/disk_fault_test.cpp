@@ -15,6 +15,7 @@
 #include "support/store_content.h"
 
 namespace kalvane::test {
+namespace {
 
 class DiskFaultTest : public MainStoreTest {
   protected:
@@ -165,4 +166,5 @@ TEST_F(DiskFaultTest, ARunKeepsTheRowsBeforeItsFault) {
     EXPECT_GT(kept.size(), 5U);  // among them some of a part of the rows
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -6,6 +6,7 @@
 #include "support/raw_store.h"
 
 namespace kalvane::test {
+namespace {
 
 using LegacyImportTest = MainStoreTest;
 
@@ -67,4 +68,5 @@ TEST_F(LegacyImportTest, AFailingTableLeavesWhatCameBefore) {
     EXPECT_EQ(Rows("Select 编号 from 窗型材"), "50");
 }
 
+}  // namespace
 }  // namespace kalvane::test

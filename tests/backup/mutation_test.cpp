@@ -16,6 +16,7 @@
 #include "support/store_content.h"
 
 namespace kalvane::test {
+namespace {
 
 class MutationTest : public MainStoreTest {
   protected:
@@ -136,4 +137,5 @@ TEST_F(MutationTest, ADamagedStoreIsToldOrRead) {
     EXPECT_GT(refused, 0);
 }
 
+}  // namespace
 }  // namespace kalvane::test

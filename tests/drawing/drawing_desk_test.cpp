@@ -8,6 +8,7 @@
 #include "support/main_store.h"
 
 namespace kalvane::test {
+namespace {
 
 class DrawingDeskTest : public MainStoreTest {
   protected:
@@ -237,4 +238,5 @@ TEST_F(DrawingDeskTest, RecoveryFilesAreFewAndReadAsFarAsTheyGo) {
     EXPECT_EQ(nowhere.prompt, "");
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -4,6 +4,7 @@
 #include "numeric/error.h"
 
 namespace kalvane::test {
+namespace {
 
 // Cells of 118.6875 by 123.984375 units.
 const DrawingGrid kGrid(9495, 7935);
@@ -45,4 +46,5 @@ TEST(DrawingGrid, ReadsTypedPoints) {
     EXPECT_THROW(kGrid.TypedPoint("1e39,0", last), NumericError);
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -5,6 +5,7 @@
 #include "support/main_store.h"
 
 namespace kalvane::test {
+namespace {
 
 class DrawingLibraryTest : public MainStoreTest {
   protected:
@@ -54,4 +55,5 @@ TEST_F(DrawingLibraryTest, AreNumberedAndListed) {
     EXPECT_EQ(Describe(picture_), "Line 1,2 3,4");
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -7,6 +7,7 @@
 #include "support/temp_folder.h"
 
 namespace kalvane::test {
+namespace {
 
 constexpr const char* kFull = "#Error|数组超出范围,请与程序员联系";
 
@@ -114,4 +115,5 @@ TEST_F(DxfImportTest, BadFiles) {
     EXPECT_EQ(Describe(picture_), "Line 0,0 0,3");
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -18,6 +18,7 @@
 #include "support/recording_notice.h"
 
 namespace kalvane::test {
+namespace {
 
 constexpr std::uint64_t kSeeds[] = {1, 2, 3, 5, 8, 13, 21, 34};
 constexpr int kInputsOfOrdinaryRun = 24000;
@@ -151,4 +152,5 @@ TEST(FileFuzz, DxfFiles) {
     });
 }
 
+}  // namespace
 }  // namespace kalvane::test

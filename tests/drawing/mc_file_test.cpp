@@ -6,6 +6,7 @@
 #include "support/temp_folder.h"
 
 namespace kalvane::test {
+namespace {
 
 class McFileTest : public testing::Test {
   protected:
@@ -63,4 +64,5 @@ TEST_F(McFileTest, ReaderRules) {
     }
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -8,6 +8,7 @@
 #include "support/page_text.h"
 
 namespace kalvane::test {
+namespace {
 
 class PageTemplatesTest : public MainStoreTest {
   protected:
@@ -132,4 +133,5 @@ TEST_F(PageTemplatesTest, PrintPictureTellsOfAnEmptyDrawing) {
     EXPECT_EQ(CommandTexts(page.Pages()[1]).front(), "1,2 3,4");
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -7,6 +7,7 @@
 #include "numeric/error.h"
 
 namespace kalvane::test {
+namespace {
 
 TEST(Shapes, ArrowsAndDimensionMarks) {
     const struct {
@@ -108,4 +109,5 @@ TEST(Painting, StretchesTheFrameOverTheBoxInOrderOfKinds) {
     EXPECT_THROW(picture.PrintPic(bare, {0, 0, 0, 7935}, box), NumericError);
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -9,6 +9,7 @@
 #include "ui/report_list.h"
 
 namespace kalvane::test {
+namespace {
 
 class AccountsTest : public ScreenTest {
   protected:
@@ -135,4 +136,5 @@ TEST_F(AccountsTest, SettingsKeepTheirDefaultsApart) {
     EXPECT_EQ(settings_.Read(kSettingsApplication, kSectionMain, "DW", ""), "凯窗门窗厂");
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -8,6 +8,7 @@
 #include "ui/screen_memory.h"
 
 namespace kalvane::test {
+namespace {
 
 class BackupFlow : public ScreenTest {
   protected:
@@ -82,4 +83,5 @@ TEST_F(BackupFlow, TheDriveMovesTheFolderAndAFailureKeepsTheScreen) {
     EXPECT_TRUE(screen.isVisible());
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -9,6 +9,7 @@
 #include "ui/picture_box.h"
 
 namespace kalvane::test {
+namespace {
 
 class DrawingFlow : public DrawScreenTest {
   protected:
@@ -141,4 +142,5 @@ TEST_F(DrawingFlow, TheMainScreenOpensOneDeskAndEndsWithItsDrawingKept) {
     EXPECT_TRUE(dialogs_.shown.isEmpty());
 }
 
+}  // namespace
 }  // namespace kalvane::test

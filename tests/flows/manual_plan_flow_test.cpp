@@ -11,6 +11,7 @@
 #include "support/screens/screen_kit.h"
 
 namespace kalvane::test {
+namespace {
 
 class ManualPlanFlow : public ScreenTest {
   protected:
@@ -179,4 +180,5 @@ TEST_F(ManualPlanFlow, ALongRunLeavesTheScreenAliveAndIsCancelled) {
     }
 }
 
+}  // namespace
 }  // namespace kalvane::test

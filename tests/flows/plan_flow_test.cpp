@@ -8,6 +8,7 @@
 #include "support/screens/screen_kit.h"
 
 namespace kalvane::test {
+namespace {
 
 class PlanFlow : public ScreenTest {
   protected:
@@ -149,4 +150,5 @@ TEST_F(PlanFlow, FromAnOpenProjectToTheOutputs) {
     delete opened;
 }
 
+}  // namespace
 }  // namespace kalvane::test

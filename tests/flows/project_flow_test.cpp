@@ -8,6 +8,7 @@
 #include "ui/report_list.h"
 
 namespace kalvane::test {
+namespace {
 
 class ProjectFlow : public ScreenTest {
   protected:
@@ -232,4 +233,5 @@ TEST_F(ProjectFlow, TypeWithoutDrawingKeepsNoLabelsOfTheTypeBefore) {
     EXPECT_EQ(Rows("Select MC,schar from 标注 where Mcnum=2"), "B|1650\nH|1200\nb1|750\nb2|750");
 }
 
+}  // namespace
 }  // namespace kalvane::test

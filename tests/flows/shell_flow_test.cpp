@@ -11,6 +11,7 @@
 #include "support/screens/screen_kit.h"
 
 namespace kalvane::test {
+namespace {
 
 // --- Login ---------------------------------------------------------------------------------------
 
@@ -253,4 +254,5 @@ TEST_F(MainScreenTest, ABrokenStoreIsToldAndTheScreenStaysUp) {
     EXPECT_EQ(App().optimise.NODES, 20);
 }
 
+}  // namespace
 }  // namespace kalvane::test

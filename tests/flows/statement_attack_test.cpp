@@ -11,6 +11,7 @@
 #include "support/screens/screen_kit.h"
 
 namespace kalvane::test {
+namespace {
 
 const char* const kAttacks[] = {
     "1); delete from 工程; --",
@@ -150,4 +151,5 @@ TEST_F(StatementAttackTest, ManualListsAndBackups) {
     Attack("frmSaveFile", "OKButton", [] { frmSaveFile(nullptr).exec(); });
 }
 
+}  // namespace
 }  // namespace kalvane::test

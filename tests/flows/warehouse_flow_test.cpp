@@ -5,6 +5,7 @@
 #include "support/screens/screen_kit.h"
 
 namespace kalvane::test {
+namespace {
 
 class WarehouseFlow : public ScreenTest {
   protected:
@@ -238,4 +239,5 @@ TEST_F(WarehouseFlow, TheQueryFiltersPreviewsPrintsAndExports) {
     EXPECT_TRUE(ReadFile(pdf.toStdString()).starts_with("%PDF"));
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -7,6 +7,7 @@
 #include "numeric/error.h"
 
 namespace kalvane::test {
+namespace {
 
 TEST(CStackAndCQueue, LoseTheEntryTooManyAndTellOfIt) {
     CStack stack;
@@ -175,4 +176,5 @@ TEST(Labels, PutInLongestNameFirst) {
     EXPECT_THROW(EvalWithLabels("h", {"H"}, {"h+1"}, 0), FormulaError);
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -5,6 +5,7 @@
 #include "support/main_store.h"
 
 namespace kalvane::test {
+namespace {
 
 class ExpansionTest : public MainStoreTest {
   protected:
@@ -96,4 +97,5 @@ TEST(Composite, FollowsFromTheTypeNumber) {
     EXPECT_EQ(is("5"), std::pair(false, false));
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -3,6 +3,7 @@
 #include <limits>
 
 namespace kalvane::test {
+namespace {
 
 TEST(DateTest, ReadsTheSpellingsOfADayAndNothingElse) {
     // 1900-01-01 is day 2; 2002-03-04 comes 102 years of 365 days, 25 leap days, 31, 28 and 3 days later.
@@ -37,4 +38,5 @@ TEST(DateTest, ReadsTheSpellingsOfADayAndNothingElse) {
     EXPECT_FALSE(IsDate(std::numeric_limits<double>::quiet_NaN()));
 }
 
+}  // namespace
 }  // namespace kalvane::test

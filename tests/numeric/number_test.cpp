@@ -6,6 +6,7 @@
 #include "numeric/text.h"
 
 namespace kalvane::test {
+namespace {
 
 TEST(Number, ReadsTheLeadingNumber) {
     const struct {
@@ -108,4 +109,5 @@ TEST(Text, CountsAndCapitalisesCharacters) {
     for (const char* text : {"\xC9\xCF", "\xC0\x80", "\xED\xA0\x80", "\xE4\xB8"}) EXPECT_FALSE(IsUtf8(text));
 }
 
+}  // namespace
 }  // namespace kalvane::test

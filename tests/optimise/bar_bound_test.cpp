@@ -4,6 +4,7 @@
 #include <random>
 
 namespace kalvane::test {
+namespace {
 
 std::int64_t Bound(int stock, const std::vector<BarDemand>& demand) {
     BarBound bound(stock, demand);
@@ -96,4 +97,5 @@ TEST(BarBoundTest, StopsWithTheTotalWhenStepsWouldTakeTooLong) {
     EXPECT_EQ(bound.Bars(), 101);  // 2 * 1001 * 1501 / 30000 = 100.17
 }
 
+}  // namespace
 }  // namespace kalvane::test

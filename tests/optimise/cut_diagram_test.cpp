@@ -4,6 +4,7 @@
 #include "support/page_text.h"
 
 namespace kalvane::test {
+namespace {
 
 class CutDiagramTest : public testing::Test {
   protected:
@@ -117,4 +118,5 @@ TEST_F(CutDiagramTest, LabelsComeInTheOrderOfCuttingOnSheetsOf24) {
     EXPECT_EQ(CommandTexts(sheets.Pages()[1])[2], "230,1645 25 / 25");
 }
 
+}  // namespace
 }  // namespace kalvane::test

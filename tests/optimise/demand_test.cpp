@@ -5,6 +5,7 @@
 #include "support/refusal.h"
 
 namespace kalvane::test {
+namespace {
 
 constexpr const char* kDemand = "Select 编号,名称,规格,长度,数量 from 优化数据";
 
@@ -66,4 +67,5 @@ TEST_F(DemandTest, FailureKeepsTheRowsBefore) {
     EXPECT_THROW(Gather({Window("40000", "9", "21")}), NumericError);
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -11,6 +11,7 @@
 #include "support/recording_notice.h"
 
 namespace kalvane::test {
+namespace {
 
 using Result = PatternSearch::Result;
 
@@ -169,4 +170,5 @@ TEST(PatternSearchTest, ReportsBadDataAndHoldsNinetyNinePieces) {
     EXPECT_EQ(search.YHRest(), 15);
 }
 
+}  // namespace
 }  // namespace kalvane::test

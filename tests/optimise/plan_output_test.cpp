@@ -9,6 +9,7 @@
 #include "support/xlsx_reader.h"
 
 namespace kalvane::test {
+namespace {
 
 /// A plan of two materials, one with two like bars on rows of their own.
 class PlanTest : public MainStoreTest {
@@ -174,4 +175,5 @@ TEST(DemandPasteTest, TakesTheGoodRowsAndNamesTheOthers) {
     EXPECT_EQ(std::count(message.begin(), message.end(), '\n'), 21);  // 20 of them, and that there are more
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -14,6 +14,7 @@
 #include "support/plan_checker.h"
 
 namespace kalvane::test {
+namespace {
 
 constexpr const char* kPlan = "Select 材料名称,切割规格,数量,优化比率,剩余料长 from 优化结果";
 
@@ -195,4 +196,5 @@ TEST_F(RunTest, ManualRunReplacesDemandAndPlan) {
     EXPECT_EQ(Rows("Select 长度 from 优化数据"), "100\n0");
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -4,6 +4,7 @@
 #include "optimise/ctable.h"
 
 namespace kalvane::test {
+namespace {
 
 /// Ascending tables of few lengths, against counting by hand. With 11 to 13 pieces the halving can end one
 /// below the piece it looks for.
@@ -36,4 +37,5 @@ TEST(CTableTest, LocatesTheFirstOfEveryRunAndDeletesExactlyThePatternsPieces) {
     }
 }
 
+}  // namespace
 }  // namespace kalvane::test

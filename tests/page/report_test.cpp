@@ -3,6 +3,7 @@
 #include "support/page_text.h"
 
 namespace kalvane::test {
+namespace {
 
 // A character of the cells' 9 points is 90 twips wide, a Chinese one 180; a line is 225 high and a row of
 // one line 325.
@@ -161,4 +162,5 @@ TEST_F(ReportTest, ATextDocumentFlows) {
     EXPECT_EQ(Count(pages[2], " 条"), 4);
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -3,6 +3,7 @@
 #include "numeric/error.h"
 
 namespace kalvane::test {
+namespace {
 
 TEST(CodePage, TellsGbkFromUtf8) {
     EXPECT_EQ(ToGbk("B一国"), "B\xD2\xBB\xB9\xFA");
@@ -24,4 +25,5 @@ TEST(CodePage, TellsGbkFromUtf8) {
     EXPECT_EQ(CodePageWords("a国"), (std::vector<std::int16_t>{97, static_cast<std::int16_t>(0xB9FA)}));
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -7,6 +7,7 @@
 #include "support/temp_folder.h"
 
 namespace kalvane::test {
+namespace {
 
 TEST(SettingsStore, KeepsTextsOverARestart) {
     const TempFolder folder;
@@ -39,4 +40,5 @@ TEST(Files, AFailedWriteLeavesTheOldFile) {
     EXPECT_THROW(ReadFile(folder / "none"), FileError);
 }
 
+}  // namespace
 }  // namespace kalvane::test

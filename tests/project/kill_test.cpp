@@ -13,6 +13,7 @@
 #include "support/main_store.h"
 
 namespace kalvane::test {
+namespace {
 
 using KillTest = MainStoreTest;
 
@@ -80,4 +81,5 @@ TEST_F(KillTest, WhatWasReportedAsSavedIsThere) {
     EXPECT_NE(reported, "");
 }
 
+}  // namespace
 }  // namespace kalvane::test

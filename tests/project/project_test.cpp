@@ -7,6 +7,7 @@
 #include "support/main_store.h"
 
 namespace kalvane::test {
+namespace {
 
 const std::string kWindowColumns =
     "Select 工程编号,门窗编号,编号,门窗名称,门窗类型,洞口宽,洞口高,制作尺寸,樘数,说明,图名 from 工程门窗";
@@ -90,4 +91,5 @@ TEST_F(ProjectTest, WindowTypesFormATree) {
     EXPECT_EQ(found, "甲厂=11(60 系列=23(a=312()b=311())80 系列=29())乙厂=12()");
 }
 
+}  // namespace
 }  // namespace kalvane::test

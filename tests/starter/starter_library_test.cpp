@@ -10,6 +10,7 @@
 #include "support/main_store.h"
 
 namespace kalvane::test {
+namespace {
 
 using Row = std::vector<std::string>;
 
@@ -202,4 +203,5 @@ TEST(StarterLibrary, SampleProjectIsComplete) {
     }
 }
 
+}  // namespace
 }  // namespace kalvane::test

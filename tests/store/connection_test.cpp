@@ -12,6 +12,7 @@
 #include "support/main_store.h"
 
 namespace kalvane::test {
+namespace {
 
 class StoreTest : public MainStoreTest {
   protected:
@@ -284,4 +285,5 @@ TEST_F(StoreTest, OpensItsOwnFilesOnly) {
     EXPECT_THROW(CreateStore(file_, StoreKind::Main), StoreError);
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -6,6 +6,7 @@
 #include "support/raw_store.h"
 
 namespace kalvane::test {
+namespace {
 
 class MigrationTest : public MainStoreTest {
   protected:
@@ -80,4 +81,5 @@ TEST_F(MigrationTest, TheNewestFiveCopiesStay) {
     EXPECT_EQ(TimeOfCopy("/x/cl-20240229-080509-123.mdb"), "2024-02-29 08:05:09");
 }
 
+}  // namespace
 }  // namespace kalvane::test

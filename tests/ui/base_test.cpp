@@ -7,6 +7,7 @@
 #include "ui/screen.h"
 
 namespace kalvane::test {
+namespace {
 
 TEST(Guard, AFailureIsToldAlsoWhenTheScreenIsGone) {
     ScriptedDialogs dialogs;
@@ -81,4 +82,5 @@ TEST_F(ScreenBaseTest, SizeIsRememberedInTheFrameAndOutsideIt) {
     SetMainFrame(nullptr);
 }
 
+}  // namespace
 }  // namespace kalvane::test

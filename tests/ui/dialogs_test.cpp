@@ -6,6 +6,7 @@
 #include "support/screens/screen_kit.h"
 
 namespace kalvane::test {
+namespace {
 
 class DialogsTest : public ScreenTest {
   protected:
@@ -83,4 +84,5 @@ TEST_F(DialogsTest, SavingAsksBeforeItOverwrites) {
     });
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -6,6 +6,7 @@
 #include "support/screens/screen_kit.h"
 
 namespace kalvane::test {
+namespace {
 
 TEST(OpenDocumentTest, AsksTheDesktopForAProgramFirst) {
     const TempFolder folder;
@@ -31,4 +32,5 @@ TEST(OpenDocumentTest, AsksTheDesktopForAProgramFirst) {
     qputenv("PATH", path);
 }
 
+}  // namespace
 }  // namespace kalvane::test

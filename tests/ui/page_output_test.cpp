@@ -6,6 +6,7 @@
 #include "ui/page_view.h"
 
 namespace kalvane::test {
+namespace {
 
 using PageOutput = ScreenTest;
 
@@ -73,4 +74,5 @@ TEST_F(PageOutput, ThePreviewShowsEachPageAtItsScale) {
     EXPECT_EQ(at(10, 401), QColor(Qt::white));
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -4,6 +4,7 @@
 #include "ui/picture_box.h"
 
 namespace kalvane::test {
+namespace {
 
 /// Pixels of a rectangle that are not white, or that are red rather than grey.
 int Ink(const QImage& image, QRect part, bool redOnly = false) {
@@ -73,4 +74,5 @@ TEST(PictureBox, KeepsThePersistentLayerUnderTheTransientOne) {
     EXPECT_EQ(row(line), 0);
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -4,6 +4,7 @@
 #include "platform/files.h"
 
 namespace kalvane::test {
+namespace {
 
 class FrmDrawTest : public DrawScreenTest {
   protected:
@@ -197,4 +198,5 @@ TEST_F(FrmDrawTest, TheLibraryDialogsCheckDeleteAndHandBack) {
     EXPECT_EQ(std::stoi(Rows("Select count(*) from 图")), before - 1);
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -5,6 +5,7 @@
 #include "support/screens/screen_kit.h"
 
 namespace kalvane::test {
+namespace {
 
 class frmViewMCTest : public ScreenTest {
   protected:
@@ -59,4 +60,5 @@ TEST_F(frmViewMCTest, WalksTheFoldersShowsADrawingAndHandsItsPathBack) {
     EXPECT_EQ(form.ResultPath(), InFolder("图/推拉/窗.mc"));
 }
 
+}  // namespace
 }  // namespace kalvane::test

@@ -3,6 +3,7 @@
 #include "support/screens/screen_kit.h"
 
 namespace kalvane::test {
+namespace {
 
 using frmOptionTest = ScreenTest;
 
@@ -36,4 +37,5 @@ TEST_F(frmOptionTest, ChecksStoresAndShowsAgain) {
     EXPECT_EQ(App().optimise.CKK, 3);
 }
 
+}  // namespace
 }  // namespace kalvane::test
