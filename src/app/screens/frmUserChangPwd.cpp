@@ -48,14 +48,16 @@ frmUserChangPwd::frmUserChangPwd(QWidget* parent)
 
     OnSignal(ok, &QPushButton::clicked, this, [this] { Change(); });
     OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
-    Guarded(this, [this] {
-        MessageNotice notice(this);
-        users_ = OpenUserStore(App(), notice);
-    });
 }
 
 int frmUserChangPwd::exec() {
+    Guarded(this, [this] { OpenUsers(); });
     return users_ != nullptr ? Screen::exec() : Rejected;
+}
+
+void frmUserChangPwd::OpenUsers() {
+    MessageNotice notice(this);
+    users_ = OpenUserStore(App(), notice);
 }
 
 void frmUserChangPwd::Change() {

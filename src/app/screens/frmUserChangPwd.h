@@ -25,6 +25,7 @@ class frmUserChangPwd : public Screen {
   private:
     enum Box { kOld, kNew, kRepeated, kBoxCount };
 
+    void OpenUsers();
     void Change();
     void Refuse(const QString& text, Box box);
 
