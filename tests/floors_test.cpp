@@ -17,9 +17,9 @@ using Path = std::filesystem::path;
 
 /// A folder that is new gets its floor here.
 const std::map<std::string, int> kFloors = {
-    {"numeric", 0},   {"platform", 1}, {"store", 2},    {"page", 2},      {"session", 3}, {"ui", 3},
-    {"formula", 4},   {"drawing", 4},  {"backup", 5},   {"catalogue", 5}, {"design", 5},  {"wind", 5},
-    {"warehouse", 5}, {"project", 6},  {"optimise", 7}, {"output", 8},    {"app", 9},     {"batch", 10},
+    {"numeric", 0},   {"platform", 1}, {"store", 2},     {"page", 2},   {"session", 3}, {"ui", 3},
+    {"formula", 4},   {"drawing", 4},  {"catalogue", 4}, {"backup", 5}, {"design", 5},  {"wind", 5},
+    {"warehouse", 5}, {"project", 6},  {"optimise", 7},  {"output", 8}, {"app", 9},     {"batch", 10},
 };
 
 /// Complaints about the files of `sources`, each "file includes file".
