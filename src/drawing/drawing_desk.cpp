@@ -7,6 +7,7 @@
 #include "drawing/desk_screen.h"
 #include "drawing/drawing_library.h"
 #include "drawing/status_bar.h"
+#include "drawing/unsaved_drawing.h"
 #include "numeric/error.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
@@ -51,7 +52,7 @@ DrawingDesk::DrawingDesk(Canvas& canvas, StatusBar& statusBar, TextForm& textFor
       screen_(screen),
       picture_(notice),
       grid_(canvas.Width(), canvas.Height()),
-      shelf_(std::move(folder)) {
+      shelf_(std::move(folder), "unsaved-drawing-") {
     picture_.SetPicture(canvas);
     picture_.SetStatu(statusBar);
     picture_.SetTextForm(textForm);
@@ -217,7 +218,7 @@ void DrawingDesk::GoTo(const DrawingItems& items, const DrawingIdentity& identit
 
 void DrawingDesk::Recover() {
     Change([&] {
-        const UnsavedDrawing drawing = shelf_.Take();
+        const UnsavedDrawing drawing = ReadRecoveryText(shelf_.Take());
         picture_.SetItems(drawing.items);
         picture_.Repaint();
         SetIdentity(drawing.number.empty() ? Unnamed(kNewTitle) : Named(drawing.number, drawing.name));
@@ -256,8 +257,8 @@ void DrawingDesk::UpdateRecovery(bool replaces) {
     const DrawingItems items = picture_.Items();
     if (items.Empty() || items == identity_.saved) return shelf_.Discard();
     try {
-        shelf_.Keep({identity_.inLibrary ? identity_.number : std::string(),
-                     identity_.inLibrary ? identity_.name : std::string(), items});
+        shelf_.Keep(RecoveryText({identity_.inLibrary ? identity_.number : std::string(),
+                                  identity_.inLibrary ? identity_.name : std::string(), items}));
         recoveryFailed_ = false;
     } catch (const FileError& error) {
         // Drawing continues; the failure is reported once.

@@ -9,7 +9,7 @@
 #include "drawing/drawing_grid.h"
 #include "drawing/drawing_history.h"
 #include "drawing/drawing_identity.h"
-#include "drawing/recovery_shelf.h"
+#include "platform/recovery_shelf.h"
 
 namespace kalvane {
 

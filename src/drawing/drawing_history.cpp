@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "numeric/assertion.h"
-
 namespace kalvane {
 namespace {
 
@@ -14,24 +12,12 @@ void Exchange(DeskState& state, DrawingItems& items, DrawingIdentity& identity) 
 
 }  // namespace
 
-void DrawingHistory::Add(DeskState before) {
-    redo_.clear();
-    if (undo_.size() == kMost) undo_.pop_front();
-    undo_.push_back(std::move(before));
-}
-
 void DrawingHistory::Undo(DrawingItems& items, DrawingIdentity& identity) {
-    KALVANE_ASSERT(CanUndo());
-    Exchange(undo_.back(), items, identity);
-    redo_.push_back(std::move(undo_.back()));
-    undo_.pop_back();
+    states_.Undo([&](DeskState& state) { Exchange(state, items, identity); });
 }
 
 void DrawingHistory::Redo(DrawingItems& items, DrawingIdentity& identity) {
-    KALVANE_ASSERT(CanRedo());
-    Exchange(redo_.back(), items, identity);
-    undo_.push_back(std::move(redo_.back()));
-    redo_.pop_back();
+    states_.Redo([&](DeskState& state) { Exchange(state, items, identity); });
 }
 
 }  // namespace kalvane

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <cstddef>
-#include <deque>
 #include <optional>
-#include <vector>
+#include <utility>
 
 #include "drawing/drawing_identity.h"
 #include "drawing/drawing_items.h"
+#include "platform/undo_history.h"
 
 namespace kalvane {
 
@@ -17,16 +16,14 @@ struct DeskState {
     std::optional<DrawingIdentity> identity;
 };
 
-/// Undo and redo: the states around each gesture that changed the drawing, the latest 200.
+/// Undo and redo of the desk.
 class DrawingHistory {
   public:
-    static constexpr std::size_t kMost = 200;
-
-    bool CanUndo() const { return !undo_.empty(); }
-    bool CanRedo() const { return !redo_.empty(); }
+    bool CanUndo() const { return states_.CanUndo(); }
+    bool CanRedo() const { return states_.CanRedo(); }
 
     /// Records the state before a gesture. Nothing can be redone then.
-    void Add(DeskState before);
+    void Add(DeskState before) { states_.Add(std::move(before)); }
 
     /// Exchanges the state of the desk for the one before the last gesture, or for the one after the gesture
     /// that was undone last. There must be one.
@@ -34,8 +31,7 @@ class DrawingHistory {
     void Redo(DrawingItems& items, DrawingIdentity& identity);
 
   private:
-    std::deque<DeskState> undo_;
-    std::vector<DeskState> redo_;
+    UndoHistory<DeskState> states_;
 };
 
 }  // namespace kalvane

@@ -1,4 +1,4 @@
-#include "drawing/recovery_shelf.h"
+#include "platform/recovery_shelf.h"
 
 #include <algorithm>
 #include <charconv>
@@ -12,24 +12,22 @@
 
 namespace kalvane {
 namespace {
-
-constexpr std::string_view kStem = "unsaved-drawing-";
 constexpr std::string_view kExtension = ".txt";
+}  // namespace
+
+RecoveryShelf::RecoveryShelf(std::filesystem::path folder, std::string stem)
+    : folder_(std::move(folder)), stem_(std::move(stem)), offered_(Numbers()) {
+    PutAside();
+}
 
 /// The number in the name of a recovery file; 0 for any other file.
-int NumberIn(std::string_view name) {
-    if (!name.starts_with(kStem) || !name.ends_with(kExtension)) return 0;
-    const char* first = name.data() + kStem.size();
+int RecoveryShelf::NumberIn(std::string_view name) const {
+    if (!name.starts_with(stem_) || !name.ends_with(kExtension)) return 0;
+    const char* first = name.data() + stem_.size();
     const char* last = name.data() + name.size() - kExtension.size();
     int number = 0;
     const auto [stop, failure] = std::from_chars(first, last, number);
     return failure == std::errc() && stop == last ? number : 0;
-}
-
-}  // namespace
-
-RecoveryShelf::RecoveryShelf(std::filesystem::path folder) : folder_(std::move(folder)), offered_(Numbers()) {
-    PutAside();
 }
 
 std::vector<int> RecoveryShelf::Numbers() const {
@@ -45,7 +43,7 @@ std::vector<int> RecoveryShelf::Numbers() const {
 }
 
 std::filesystem::path RecoveryShelf::File(int number) const {
-    return folder_ / (std::string(kStem) + std::to_string(number) + std::string(kExtension));
+    return folder_ / (stem_ + std::to_string(number) + std::string(kExtension));
 }
 
 void RecoveryShelf::Remove(int number) {
@@ -58,19 +56,18 @@ bool RecoveryShelf::Offers() const {
     return !offered_.empty();
 }
 
-UnsavedDrawing RecoveryShelf::Take() {
+std::string RecoveryShelf::Take() {
     KALVANE_ASSERT(Offers());
     const int number = offered_.back();
     offered_.pop_back();
-    UnsavedDrawing drawing = ReadRecoveryText(ReadFile(File(number)));
+    std::string text = ReadFile(File(number));
     current_ = number;
-    return drawing;
+    return text;
 }
 
-void RecoveryShelf::Keep(const UnsavedDrawing& drawing) {
-    const std::string text = RecoveryText(drawing);
+void RecoveryShelf::Keep(const std::string& text) {
     WriteFileAtomically(File(current_), text);
-    // A drawing that an undo restored from the shelf is not kept there as well.
+    // Work that an undo restored from the shelf is not kept there as well.
     for (const int number : Numbers()) {
         if (number == current_) continue;
         try {
