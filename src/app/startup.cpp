@@ -114,4 +114,10 @@ void OpenStockStore(AppState& state, Notice& notice) {
     state.stockConnectionText = TextOf(state.stockConnection);
 }
 
+void OpenOwnStore(AppState& state, Notice& notice) {
+    // An older program's folder has none, and where nothing can be written it gets none.
+    if (!std::filesystem::exists(state.folder / kOwnStoreName) && !IsWritableFolder(state.folder)) return;
+    state.ownConnection = OpenStore(state, kOwnStoreName, StoreKind::Own, "附加", notice);
+}
+
 }  // namespace kalvane

@@ -22,5 +22,6 @@ std::unique_ptr<Connection> OpenUserStore(const AppState& state, Notice& notice)
 /// up to date as well, and offers to undo a restore that was cut off.
 void OpenMainStore(AppState& state, Notice& notice);
 void OpenStockStore(AppState& state, Notice& notice);
+void OpenOwnStore(AppState& state, Notice& notice);
 
 }  // namespace kalvane

@@ -42,6 +42,8 @@ void CreateMissingStores(const std::filesystem::path& folder) {
     CreateWhole(folder / kStockStoreName, StoreKind::Stock, {});
     CreateWhole(folder / kUserStoreName, StoreKind::Users, FillUsers);
     CreateWhole(folder / kTemplateStoreName, StoreKind::Main, {});
+    // An older program's folder has none. Where nothing can be written it is looked at without.
+    if (IsWritableFolder(folder)) CreateWhole(folder / kOwnStoreName, StoreKind::Own, {});
     if (!std::filesystem::exists(folder / kHelpFileName)) {
         WriteFileAtomically(folder / kHelpFileName, StarterContent(kHelpFileName));
     }

@@ -37,7 +37,8 @@ void FillBackup(Connection& main, Connection& backup, const TableProgress& progr
 }
 
 void RefuseStores(const std::filesystem::path& target, const std::filesystem::path& folder) {
-    for (const char* name : {kMainStoreName, kStockStoreName, kUserStoreName, kTemplateStoreName}) {
+    for (const char* name :
+         {kMainStoreName, kStockStoreName, kUserStoreName, kTemplateStoreName, kOwnStoreName}) {
         std::error_code ignored;
         if (std::filesystem::equivalent(target, folder / name, ignored)) {
             throw FileError("“" + std::string(name) + "”是正在使用的数据库，请换一个备份文件名。");

@@ -16,6 +16,12 @@ Connection& AppState::Stock() {
     return *stockConnection;
 }
 
+Connection& AppState::Own() {
+    if (ownConnection == nullptr)
+        throw StoreError("附加数据库没有打开。请检查启动文件夹中的 kalvane.mdb 后重新启动程序。");
+    return *ownConnection;
+}
+
 AppState& App() {
     static AppState state;
     return state;

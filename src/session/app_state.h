@@ -26,6 +26,7 @@ struct AppState {
     std::string mainConnectionText;
     std::unique_ptr<Connection> stockConnection;
     std::string stockConnectionText;
+    std::unique_ptr<Connection> ownConnection;
 
     std::int16_t outputFileType = 0;   ///< 0 spreadsheet, else text file
     std::int16_t windCheckOption = 1;  ///< 0 standard check, else the short one
@@ -42,6 +43,7 @@ struct AppState {
     /// The open main store; throws StoreError when it could not be opened at the start.
     Connection& Main();
     Connection& Stock();
+    Connection& Own();
 };
 
 /// The record all screens share.

@@ -215,6 +215,15 @@ constexpr Table kUsersTables[] = {
     {"user", kUserColumns, {}},
 };
 
+constexpr Column kMinimumColumns[] = {
+    {"规格", Text, 50},
+    {"最低量", Int32},
+};
+
+constexpr Table kOwnTables[] = {
+    {"最低库存", kMinimumColumns, {"规格"}},
+};
+
 }  // namespace
 
 std::span<const Table> TablesOf(StoreKind kind) {
@@ -225,6 +234,8 @@ std::span<const Table> TablesOf(StoreKind kind) {
             return kStockTables;
         case StoreKind::Users:
             return kUsersTables;
+        case StoreKind::Own:
+            return kOwnTables;
         case StoreKind::Backup:
         case StoreKind::Legacy:
             break;
@@ -233,7 +244,7 @@ std::span<const Table> TablesOf(StoreKind kind) {
 }
 
 const Table* FindTable(std::string_view name) {
-    for (const StoreKind kind : {StoreKind::Main, StoreKind::Stock, StoreKind::Users}) {
+    for (const StoreKind kind : {StoreKind::Main, StoreKind::Stock, StoreKind::Users, StoreKind::Own}) {
         for (const Table& table : TablesOf(kind)) {
             if (EqualIgnoringCase(table.name, name)) return &table;
         }

@@ -23,9 +23,10 @@ struct Table {
     std::array<std::string_view, 2> indexedColumns{};
 };
 
-/// The kinds of store file. A backup and a store of the legacy layout are only read, and which tables they
+/// The kinds of store file. Own holds what goes beyond the tables of the other stores, which are what they
+/// are. A backup and a store of the legacy layout are only read, and which tables they
 /// have shows when one is asked for.
-enum class StoreKind { Main, Stock, Users, Backup, Legacy };
+enum class StoreKind { Main, Stock, Users, Own, Backup, Legacy };
 
 inline bool IsReadOnly(StoreKind kind) {
     return kind == StoreKind::Backup || kind == StoreKind::Legacy;

@@ -1,14 +1,10 @@
 #include "warehouse/goods_notes.h"
 
-#include <gtest/gtest.h>
-
 #include "store/helpers.h"
-#include "store/store_files.h"
 #include "support/faulty_disk.h"
 #include "support/killed_child.h"
 #include "support/refusal.h"
-#include "support/store_rows.h"
-#include "support/temp_folder.h"
+#include "support/stock_store.h"
 #include "warehouse/clear_stock.h"
 #include "warehouse/material_proposals.h"
 #include "warehouse/note_reports.h"
@@ -18,17 +14,8 @@
 namespace kalvane::test {
 namespace {
 
-class WarehouseTest : public testing::Test {
+class WarehouseTest : public StockStoreTest {
   protected:
-    static NoteLine Line(const std::string& code, const std::string& count,
-                         const std::string& price = "2.5") {
-        return {"料" + code, code, "支", price, count, "型材"};
-    }
-    static GoodsNote Note(const std::string& number, std::vector<NoteLine> lines) {
-        return {number, "甲厂", "999", "生产", "P-7", "王", "2002-03-04", std::move(lines)};
-    }
-    std::string Rows(const std::string& sql) { return test::Rows(*store_, sql); }
-
     /// What differs between the stock list and the sums of the stored lines; empty when nothing does.
     std::string Imbalance() {
         std::string faults;
@@ -47,11 +34,6 @@ class WarehouseTest : public testing::Test {
         }
         return faults;
     }
-
-    const TempFolder folder_;
-    const std::filesystem::path file_ = folder_ / kStockStoreName;
-    std::unique_ptr<Connection> store_ =
-        (CreateStore(file_, StoreKind::Stock), std::make_unique<Connection>(file_, StoreKind::Stock));
 };
 
 TEST_F(WarehouseTest, NotesMoveTheStock) {

@@ -52,6 +52,7 @@ void MDIMain::Load() {
     App().optimise = ReadOptimiseSettings(*App().settings, notice);
     OpenStockStore(App(), notice);
     OpenMainStore(App(), notice);
+    OpenOwnStore(App(), notice);
     ApplyRights();
 }
 

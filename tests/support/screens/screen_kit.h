@@ -117,7 +117,8 @@ class ModalScript {
 class ScreenTest : public testing::Test {
   protected:
     void SetUp() override {
-        for (const char* name : {kMainStoreName, kStockStoreName, kUserStoreName, kTemplateStoreName}) {
+        for (const char* name :
+             {kMainStoreName, kStockStoreName, kUserStoreName, kTemplateStoreName, kOwnStoreName}) {
             std::filesystem::copy_file(FreshStores() / name, folder_ / name);
         }
         AppState& state = App();
@@ -131,6 +132,7 @@ class ScreenTest : public testing::Test {
         state.mainConnectionText = state.mainConnection->ConnectionText();
         state.stockConnection = std::make_unique<Connection>(folder_ / kStockStoreName, StoreKind::Stock);
         state.stockConnectionText = state.stockConnection->ConnectionText();
+        state.ownConnection = std::make_unique<Connection>(folder_ / kOwnStoreName, StoreKind::Own);
     }
 
     void TearDown() override {
