@@ -4,6 +4,9 @@
 
 namespace kalvane {
 
+struct FormulaRow;
+struct LabelSet;
+
 enum class MaterialClass { Profile, Steel, Fitting, Panel };
 
 /// One evaluated material line of a project window. Fields a class has not are empty. Numbers travel as
@@ -16,6 +19,9 @@ struct BillRow {
     std::string width;     ///< 宽 in mm of a panel
     std::string quantity;  ///< 数量
     std::string unit;      ///< 单位 of a fitting
+    /// What it was worked out from, for as long as the row is being handed on.
+    const FormulaRow* formulas = nullptr;
+    const LabelSet* labels = nullptr;
 };
 
 }  // namespace kalvane

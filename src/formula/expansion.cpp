@@ -14,6 +14,7 @@ struct Multiplier {
     std::string pieces;                 ///< for profiles, steels and panels
     std::string fittingPieces;          ///< for fittings, first factor
     std::optional<std::int16_t> count;  ///< for fittings of a composite, second factor
+    NullUnit nullUnit = NullUnit::Fails;
 };
 
 float Evaluate(const FieldValue& formula, const LabelSet& labels) {
@@ -30,6 +31,10 @@ void ExpandBar(BillRow& bill, const FormulaRow& row, const LabelSet& labels, con
 void ExpandFitting(BillRow& bill, const FormulaRow& row, const LabelSet& labels,
                    const Multiplier& multiplier) {
     bill.code = row.code.Text();
+    if (row.unit.IsNull() && multiplier.nullUnit == NullUnit::CountsZero) {
+        bill.quantity = "0";
+        return;
+    }
     bill.unit = row.unit.Text();
     const std::int16_t each = RoundToInt16(Val(ShortText(Evaluate(row.quantity, labels))));
     bill.quantity = ShortText(each * Val(multiplier.fittingPieces));
@@ -52,6 +57,8 @@ void ExpandType(FormulaRows& rows, const std::string& typeId, const LabelSet& la
         for (const FormulaRow& row : rows.Of(materialClass, typeId)) {
             BillRow bill;
             bill.materialClass = materialClass;
+            bill.formulas = &row;
+            bill.labels = &labels;
             bill.name = row.name.Text();
             expand(bill, row, labels, multiplier);
             sink(bill);
@@ -62,20 +69,21 @@ void ExpandType(FormulaRows& rows, const std::string& typeId, const LabelSet& la
 }  // namespace
 
 void ExpandPlain(Connection& connection, FormulaRows& rows, const WindowToExpand& window, Notice& notice,
-                 const BillSink& sink) {
+                 const BillSink& sink, NullUnit nullUnit) {
     try {
         const LabelSet labels = LoadPlainLabels(connection, window.id);
-        ExpandType(rows, window.typeId, labels, {window.count, window.count, std::nullopt}, sink);
+        ExpandType(rows, window.typeId, labels, {window.count, window.count, std::nullopt, nullUnit}, sink);
     } catch (const Error& failure) {
         notice.Show(failure.what(), "出错！", NoticeIcon::Error);
     }
 }
 
 void ExpandComposite(Connection& connection, FormulaRows& rows, const WindowToExpand& window,
-                     const BillSink& sink) {
+                     const BillSink& sink, NullUnit nullUnit) {
     for (MemberWalk member(connection, window.id); member.Next();) {
         const double pieces = ParseNumber(window.count);
-        const Multiplier multiplier{ShortText(pieces * member.Count()), ShortText(pieces), member.Count()};
+        const Multiplier multiplier{ShortText(pieces * member.Count()), ShortText(pieces), member.Count(),
+                                    nullUnit};
         ExpandType(rows, member.TypeId(), member.Labels(), multiplier, sink);
     }
 }

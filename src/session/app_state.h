@@ -6,6 +6,7 @@
 #include <string>
 
 #include "session/optimise_settings.h"
+#include "session/tally_state.h"
 #include "store/connection.h"
 #include "store/field_slots.h"
 
@@ -36,8 +37,9 @@ struct AppState {
     std::string postNoteNumber;
 
     OptimiseSettings optimise;
-    std::int16_t YHScheme = 0;          ///< 0 practical optimiser, else the linear one
-    std::string optimiseProjectName;    ///< heading of the plan's output
+    std::int16_t YHScheme = 0;        ///< 0 practical optimiser, else the linear one
+    std::string optimiseProjectName;  ///< heading of the plan's output
+    TallyState tally;
     SettingsStore* settings = nullptr;  ///< owned by main
 
     /// The open main store; throws StoreError when it could not be opened at the start.
