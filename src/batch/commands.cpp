@@ -4,6 +4,7 @@
 
 #include "batch/line_notice.h"
 #include "batch/locked_store.h"
+#include "batch/project_choice.h"
 #include "formula/composite.h"
 #include "formula/expansion.h"
 #include "formula/labels.h"
@@ -15,7 +16,6 @@
 #include "optimise/plan.h"
 #include "optimise/run.h"
 #include "platform/settings_store.h"
-#include "project/project_list.h"
 #include "project/project_windows.h"
 
 namespace kalvane {
@@ -28,13 +28,6 @@ void PrintRow(std::initializer_list<std::string_view> fields) {
         separator = "\t";
     }
     std::cout << '\n';
-}
-
-std::string ProjectNumber(Connection& connection, const std::string& name) {
-    for (const Project& project : ListProjects(connection)) {
-        if (project.name == name) return project.number;
-    }
-    throw StoreError("没有名为“" + name + "”的工程。");
 }
 
 void GatherProject(Connection& connection, const std::string& project) {
@@ -99,7 +92,7 @@ void FolderCommands::Expand(const std::string& project) const {
     LockedStore store(folder_, StoreKind::Main);
     LineNotice notice;
     FormulaRows rows(store.Get());
-    for (const WindowEntry& entry : ListWindows(store.Get(), ProjectNumber(store.Get(), project))) {
+    for (const WindowEntry& entry : ChosenWindows(store.Get(), project, {})) {
         const BillSink print = [&](const BillRow& row) {
             PrintRow({entry.name, ClassName(row.materialClass), row.name, row.code, row.length, row.width,
                       row.quantity, row.unit});

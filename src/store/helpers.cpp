@@ -45,6 +45,16 @@ std::optional<Cursor> OpenQuery(Connection& connection, std::string_view sql) {
     }
 }
 
+std::vector<std::vector<std::string>> TextRows(Cursor rows) {
+    std::vector<std::vector<std::string>> texts;
+    texts.reserve(static_cast<std::size_t>(rows.RecordCount()));
+    for (; !rows.Eof(); rows.MoveNext()) {
+        std::vector<std::string>& row = texts.emplace_back();
+        for (int i = 0; i < rows.FieldCount(); ++i) row.push_back(rows.Field(i).TextOrEmpty());
+    }
+    return texts;
+}
+
 std::string MakeKey(std::string_view kind, std::string_view id) {
     return std::string(Trim(kind)) + std::string(Trim(id));
 }

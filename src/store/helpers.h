@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "store/connection.h"
 #include "store/field_slots.h"
@@ -18,6 +19,9 @@ std::string NextPostNo(Connection& stock);
 
 /// The rows of a select, or nothing when the store refused the statement.
 std::optional<Cursor> OpenQuery(Connection& connection, std::string_view sql);
+
+/// The rows of a select as texts, Null as empty text.
+std::vector<std::vector<std::string>> TextRows(Cursor rows);
 
 /// A tree or list key: a one-character kind followed by a number, both trimmed.
 std::string MakeKey(std::string_view kind, std::string_view id);

@@ -49,16 +49,6 @@ std::string QueryStatement(std::string_view table, std::string_view field, std::
     return where + std::string(value);
 }
 
-std::vector<std::vector<std::string>> TextRows(Cursor rows) {
-    std::vector<std::vector<std::string>> texts;
-    texts.reserve(static_cast<std::size_t>(rows.RecordCount()));
-    for (; !rows.Eof(); rows.MoveNext()) {
-        std::vector<std::string>& row = texts.emplace_back();
-        for (int i = 0; i < rows.FieldCount(); ++i) row.push_back(rows.Field(i).TextOrEmpty());
-    }
-    return texts;
-}
-
 FileTable QueryFileTable(std::string_view table, std::vector<std::vector<std::string>> rows) {
     FileTable file;
     file.title = table;

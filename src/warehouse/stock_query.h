@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "page/table_file.h"
-#include "store/cursor.h"
+#include "store/helpers.h"
 #include "store/schema.h"
 
 namespace kalvane {
@@ -34,9 +34,6 @@ std::optional<FilterRefusal> RefusedFilter(std::string_view field, std::string_v
 std::string QueryStatement(std::string_view table);
 std::string QueryStatement(std::string_view table, std::string_view field, std::string_view value,
                            FieldType type);
-
-/// The rows of a select as texts, Null as empty text.
-std::vector<std::vector<std::string>> TextRows(Cursor rows);
 
 /// Rows of a table, for a file.
 FileTable QueryFileTable(std::string_view table, std::vector<std::vector<std::string>> rows);
