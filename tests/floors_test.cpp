@@ -8,6 +8,7 @@
 #include <map>
 #include <regex>
 
+#include "support/paths.h"
 #include "support/temp_folder.h"
 
 namespace kalvane::test {
@@ -47,7 +48,7 @@ std::vector<std::string> IncludesUpwards(const Path& sources) {
 }
 
 TEST(Floors, FoldersIncludeOnlyFromBelow) {
-    EXPECT_EQ(IncludesUpwards(Path(KALVANE_SOURCE_DIR) / "src"), std::vector<std::string>());
+    EXPECT_EQ(IncludesUpwards(SourceFolder() / "src"), std::vector<std::string>());
 }
 
 TEST(Floors, AWrongIncludeIsNamed) {

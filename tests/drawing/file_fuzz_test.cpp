@@ -15,6 +15,7 @@
 #include "numeric/text.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
+#include "support/paths.h"
 #include "support/recording_notice.h"
 
 namespace kalvane::test {
@@ -44,8 +45,7 @@ class CheckingTarget final : public PaintTarget {
 
 std::vector<std::string> DrawingFiles() {
     std::vector<std::string> files;
-    for (const auto& entry :
-         std::filesystem::directory_iterator(KALVANE_SOURCE_DIR "/data/starter/drawings")) {
+    for (const auto& entry : std::filesystem::directory_iterator(SourceFolder() / "data/starter/drawings")) {
         files.push_back(ReadFile(entry.path()));
     }
     std::sort(files.begin(), files.end());  // the folder's order is not fixed

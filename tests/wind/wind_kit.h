@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "support/paths.h"
 #include "wind/full_form.h"
 #include "wind/sliding_form.h"
 
@@ -36,7 +37,7 @@ inline FullTexts Window(Sets base = {}, Sets detail = {}) {
 
 /// A report worked by hand, line by line.
 inline std::vector<std::string> GoldenLines(const char* name) {
-    std::ifstream file(std::string(KALVANE_SOURCE_DIR "/tests/wind/golden/") + name);
+    std::ifstream file(SourceFolder() / "tests/wind/golden" / name);
     std::vector<std::string> lines;
     for (std::string line; std::getline(file, line);) lines.push_back(line);
     return lines;
