@@ -26,24 +26,32 @@ bool IsWindowType(std::string_view tag) {
 }
 
 std::vector<TreeNode> LoadWindowTypes(Connection& connection) {
-    std::vector<TreeNode> makers = LoadLevel(connection, "1", "Select * from 门窗厂家 order by 编号");
+    std::vector<TreeNode> makers =
+        LoadLevel(connection, kWindowMakerKind, "Select * from 门窗厂家 order by 编号");
     for (TreeNode& maker : makers) {
-        maker.children = LoadLevel(
-            connection, "2", "Select * from 门窗系列 Where 厂家编号=" + KeyId(maker.tag) + " order by 编号");
+        maker.children =
+            LoadLevel(connection, kWindowSeriesKind,
+                      "Select * from 门窗系列 Where 厂家编号=" + KeyId(maker.tag) + " order by 编号");
         for (TreeNode& series : maker.children) {
-            series.children = LoadLevel(
-                connection, "3", "Select * from 门窗 Where 系列编号=" + KeyId(series.tag) + " order by 名称");
+            series.children =
+                LoadLevel(connection, kWindowTypeKind,
+                          "Select * from 门窗 Where 系列编号=" + KeyId(series.tag) + " order by 名称");
         }
     }
     return makers;
 }
 
-std::string DrawingOfWindowType(Connection& connection, std::string_view typeNumber, FieldSlots& slots) {
+WindowType ReadWindowType(Connection& connection, std::string_view typeNumber, FieldSlots& slots) {
     LoadRowById(connection, "门窗", typeNumber, slots);
-    if (slots[kDrawingSlot].empty()) {
-        throw StoreError("窗型“" + slots[kNameSlot] + "”还没有图，请先在“窗型设计”中为它选图。");
+    return {slots[kNameSlot], slots[kDrawingSlot]};
+}
+
+std::string DrawingOfWindowType(Connection& connection, std::string_view typeNumber, FieldSlots& slots) {
+    const WindowType type = ReadWindowType(connection, typeNumber, slots);
+    if (type.drawing.empty()) {
+        throw StoreError("窗型“" + type.name + "”还没有图，请先在“窗型设计”中为它选图。");
     }
-    return slots[kDrawingSlot];
+    return type.drawing;
 }
 
 }  // namespace kalvane

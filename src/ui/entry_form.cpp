@@ -52,8 +52,15 @@ QWidget* EntryForm::MakeControl(const EntryBox& box) {
         return list;
     }
     QLineEdit* line = MakeBox(box.name, this, kBoxWidth);
+    connect(line, &QLineEdit::textChanged, this, &EntryForm::FollowNotes);
     if (box.keys != NumberKeys::Any) NumberFilter::Set(line, box.keys);
     if (box.longest > 0) line->setMaxLength(box.longest);
+    return line;
+}
+
+QLineEdit* EntryForm::Box(qsizetype place) const {
+    auto* line = qobject_cast<QLineEdit*>(controls_[place]);
+    KALVANE_ASSERT(line != nullptr);
     return line;
 }
 
@@ -83,10 +90,31 @@ QStringList EntryForm::Texts() const {
     return texts;
 }
 
-void EntryForm::AddNote(const QString& text) {
-    auto* note = new QLabel(text, this);
+QLabel* EntryForm::MakeNote() {
+    auto* note = new QLabel(this);
     note->setWordWrap(true);
+    note->setTextFormat(Qt::PlainText);  // it may hold what was typed
     fields_->addRow(note);
+    return note;
+}
+
+void EntryForm::AddNote(const QString& text) {
+    MakeNote()->setText(text);
+}
+
+void EntryForm::AddNote(std::function<QString()> text) {
+    following_.emplace_back(MakeNote(), std::move(text));
+    FollowNotes();
+}
+
+void EntryForm::FollowNotes() {
+    Guarded(this, [this] {
+        for (const auto& [note, text] : following_) note->setText(text());
+    });
+}
+
+void EntryForm::AddControl(QWidget* control) {
+    fields_->addRow(control);
 }
 
 void EntryForm::SetCaptions(const QString& ok, const QString& cancel) {
@@ -103,7 +131,8 @@ bool EntryForm::RefuseEmpty() {
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         QWidget* control = controls_[static_cast<qsizetype>(i)];
         if (boxes_[i].mayBeEmpty || !TextOf(control).isEmpty()) continue;
-        UseDialogs().Message(this, promptText_, promptTitle_, NoticeIcon::Information);
+        UseDialogs().Message(this, boxes_[i].complaint.isEmpty() ? promptText_ : boxes_[i].complaint,
+                             promptTitle_, NoticeIcon::Information);
         control->setFocus();
         return true;
     }

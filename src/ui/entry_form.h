@@ -11,6 +11,7 @@
 #include "ui/number_filter.h"
 
 class QFormLayout;
+class QLabel;
 class QPushButton;
 
 namespace kalvane {
@@ -24,7 +25,8 @@ struct EntryBox {
     QString column{};       ///< it is written to, so that a refusal by the store leads back here
     QStringList choices{};  ///< makes it a list; the slot takes the place in it, from "1" on
     bool mayBeEmpty = false;
-    int longest = 0;  ///< characters; 0 for any number
+    int longest = 0;      ///< characters; 0 for any number
+    QString complaint{};  ///< said when it is empty, in place of the form's
 };
 
 /// A dialog of some boxes, as a table of them: Enter walks from box to box and confirms in the last one, and
@@ -43,9 +45,15 @@ class EntryForm : public EntryScreen {
     /// Texts of the boxes, in their order; of a list the place in it from "1" on.
     void Fill(const QStringList& texts);
     QStringList Texts() const;
+    /// A box of text, by its place from 0.
+    QLineEdit* Box(qsizetype place) const;
 
     /// A line under the boxes.
     void AddNote(const QString& text);
+    /// The same with a text that follows what is typed.
+    void AddNote(std::function<QString()> text);
+    /// A control under the boxes; what it holds goes to no slot.
+    void AddControl(QWidget* control);
     /// Title of "数据不能为空！"; "提示" if none is given.
     void SetPromptTitle(const QString& title) { promptTitle_ = title; }
     /// What is said in its place.
@@ -58,9 +66,12 @@ class EntryForm : public EntryScreen {
 
   protected:
     bool HasTypedWork() const override { return Texts() != filled_; }
+    /// Brings the notes that follow up to date.
+    void FollowNotes();
 
   private:
     QWidget* MakeControl(const EntryBox& box);
+    QLabel* MakeNote();
     static QString TextOf(const QWidget* control);
     void Confirm();
     bool RefuseEmpty();
@@ -77,6 +88,7 @@ class EntryForm : public EntryScreen {
     QPushButton* ok_;
     QPushButton* cancel_;
     std::function<void()> save_;
+    std::vector<std::pair<QLabel*, std::function<QString()>>> following_;
 };
 
 }  // namespace kalvane

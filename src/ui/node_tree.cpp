@@ -1,6 +1,5 @@
 #include "ui/node_tree.h"
 
-#include <QIcon>
 #include <QStyle>
 #include <QTreeWidgetItemIterator>
 
@@ -16,7 +15,10 @@ const QChar kSeparator = QLatin1Char(' ');
 }  // namespace
 
 NodeTree::NodeTree(const QString& name, const std::string& leafKinds, QWidget* parent)
-    : QTreeWidget(parent), leafKinds_(leafKinds) {
+    : QTreeWidget(parent),
+      leafKinds_(leafKinds),
+      leaf_(QStringLiteral(":/ui/design.svg")),
+      folder_(style()->standardIcon(QStyle::SP_DirIcon)) {
     setObjectName(name);
     setHeaderHidden(true);
     setUniformRowHeights(true);
@@ -32,8 +34,7 @@ void NodeTree::Show(const std::vector<TreeNode>& nodes) {
 QTreeWidgetItem* NodeTree::Add(const TreeNode& node, QTreeWidgetItem* parent) {
     auto* item = new QTreeWidgetItem(QStringList(ToQt(node.name)));
     item->setData(0, kTagRole, ToQt(node.tag));
-    item->setIcon(0, IsLeaf(item) ? QIcon(QStringLiteral(":/ui/design.svg"))
-                                  : style()->standardIcon(QStyle::SP_DirIcon));
+    item->setIcon(0, IsLeaf(item) ? leaf_ : folder_);
     for (const TreeNode& child : node.children) Add(child, item);
     (parent != nullptr ? parent : invisibleRootItem())->addChild(item);
     return item;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QTreeWidget>
 #include <string>
 #include <vector>
@@ -44,6 +45,8 @@ class NodeTree : public QTreeWidget {
     void Restore();
 
     std::string leafKinds_;
+    QIcon leaf_;
+    QIcon folder_;
 };
 
 }  // namespace kalvane

@@ -109,12 +109,31 @@ constexpr struct {
     const char* name;
     std::size_t right;
 } kEntries[] = {
-    {"mnuDrawPicture", 2},    {"x2", 2},           {"mnuProject", 4}, {"x4", 4},
-    {"mnuYouhua", 5},         {"x5", 5},           {"mnuFYJH", 6},    {"x9", 6},
-    {"mnuDatabaseManage", 7}, {"x6", 7},           {"mnuPath", 8},    {"mnuChangeBackgroup", 9},
-    {"mnuUserMng", 10},       {"mnuMdifyPwd", 11}, {"mnuInput", 12},  {"mnuOutput", 12},
-    {"mnuQuery", 12},         {"mnuClearCK", 12},  {"mnuExit", 0},    {"mnuAbout", 0},
-    {"mnuHelps", 0},          {"x7", 0},           {"x8", 0},
+    {"mnuDrawPicture", 2},
+    {"x2", 2},
+    {"mnuDesign", 3},
+    {"x3", 3},
+    {"mnuProject", 4},
+    {"x4", 4},
+    {"mnuYouhua", 5},
+    {"x5", 5},
+    {"mnuFYJH", 6},
+    {"x9", 6},
+    {"mnuDatabaseManage", 7},
+    {"x6", 7},
+    {"mnuPath", 8},
+    {"mnuChangeBackgroup", 9},
+    {"mnuUserMng", 10},
+    {"mnuMdifyPwd", 11},
+    {"mnuInput", 12},
+    {"mnuOutput", 12},
+    {"mnuQuery", 12},
+    {"mnuClearCK", 12},
+    {"mnuExit", 0},
+    {"mnuAbout", 0},
+    {"mnuHelps", 0},
+    {"x7", 0},
+    {"x8", 0},
 };
 
 TEST_F(MainScreenTest, RightsEnableEntries) {

@@ -1,6 +1,7 @@
 #include "app/screens/kalvane_kernel.h"
 
 #include "backup/screens/frmTools.h"
+#include "design/screens/FrmDesign.h"
 #include "optimise/screens/frmCreate02.h"
 #include "project/screens/frmMCGCGL.h"
 #include "session/app_state.h"
@@ -16,6 +17,11 @@ ProjectRoads KalvaneKernel::Roads() {
         frmCreate02(project.number, parent).exec();
     };
     return roads;
+}
+
+void KalvaneKernel::ShowDesign() {
+    if (ActivateScreen(QStringLiteral("FrmDesign"))) return;
+    (new FrmDesign(nullptr))->ShowModeless();
 }
 
 void KalvaneKernel::ShowGCGL() {

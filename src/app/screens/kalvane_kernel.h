@@ -12,6 +12,8 @@ class KalvaneKernel {
     /// Where the commands of an opened project lead.
     static ProjectRoads Roads();
 
+    /// The window types, not modal.
+    void ShowDesign();
     /// The projects, not modal.
     void ShowGCGL();
     /// Backup and restore, modal.

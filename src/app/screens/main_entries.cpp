@@ -93,7 +93,7 @@ const std::vector<MainMenu>& MainMenus() {
              {QStringLiteral("mnuDrawPicture"), QStringLiteral("绘制图"), QStringLiteral("drawing"),
               Right::Drawing, [](MDIMain&) { ShowDrawingDesk(); }},
              {QStringLiteral("mnuDesign"), QStringLiteral("窗型设计"), QStringLiteral("design"),
-              Right::Design, nullptr},
+              Right::Design, [](MDIMain&) { KalvaneKernel().ShowDesign(); }},
              {QStringLiteral("mnuProject"), QStringLiteral("工程管理"), QStringLiteral("project"),
               Right::Project, [](MDIMain&) { KalvaneKernel().ShowGCGL(); }},
              {QStringLiteral("mnuYouhua"), QStringLiteral("材料优化"), QStringLiteral("optimise"),
