@@ -164,11 +164,15 @@ TEST_F(MainScreenTest, EntriesAndButtonsOpenTheirScreens) {
     MDIMain frame;
     frame.Load();
     frame.show();
-    for (const char* command : {"mnuProject", "x4"}) {  // open once
-        Trigger(frame, command);
+    const char* const modeless[][2] = {
+        {"mnuDesign", "FrmDesign"}, {"x3", "FrmDesign"}, {"mnuProject", "frmMCGCGL"}, {"x4", "frmMCGCGL"}};
+    for (const auto& [command, screen] : modeless) {
+        for (int times = 0; times < 2; ++times) Trigger(frame, command);  // opens once
         const QList<QMdiSubWindow*> children = frame.findChild<QMdiArea*>()->subWindowList();
         ASSERT_EQ(children.size(), 1) << command;
-        EXPECT_EQ(children[0]->widget()->objectName(), "frmMCGCGL");
+        EXPECT_EQ(children[0]->widget()->objectName(), screen);
+        qobject_cast<QDialog*>(children[0]->widget())->done(QDialog::Rejected);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     const char* const modal[][2] = {
         {"mnuYouhua", "frmYHMain"},

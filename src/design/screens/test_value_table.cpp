@@ -30,7 +30,7 @@ QMap<QString, QString> TypedValues() {
 TestValueTable::TestValueTable(QWidget* parent) : QTableWidget(0, 2, parent) {
     setObjectName(QStringLiteral("LvwTest"));
     setHorizontalHeaderLabels({QStringLiteral("标注"), QStringLiteral("试算值")});
-    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     verticalHeader()->hide();
     setToolTip(QStringLiteral("公式按这些尺寸（毫米）试算，不会保存到窗型中"));
     setTabKeyNavigation(false);

@@ -24,6 +24,11 @@ void TypeTree::mousePressEvent(QMouseEvent* event) {
     dragNode_ = isType ? node : nullptr;
 }
 
+void TypeTree::mouseReleaseEvent(QMouseEvent* event) {
+    NodeTree::mouseReleaseEvent(event);
+    dragNode_ = nullptr;
+}
+
 void TypeTree::startDrag(Qt::DropActions) {
     if (dragNode_ == nullptr) return;
     NodeTree::startDrag(Qt::CopyAction);
@@ -38,7 +43,7 @@ QTreeWidgetItem* TypeTree::TargetAt(const QPoint& place) const {
 }
 
 void TypeTree::dragEnterEvent(QDragEnterEvent* event) {
-    event->setAccepted(event->source() == this && dragNode_ != nullptr);
+    event->setAccepted(dragNode_ != nullptr);
 }
 
 void TypeTree::dragMoveEvent(QDragMoveEvent* event) {
