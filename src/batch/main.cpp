@@ -1,6 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 
+#include "batch/check_command.h"
 #include "batch/commands.h"
 #include "batch/stock_commands.h"
 #include "batch/tally_commands.h"
@@ -45,6 +46,7 @@ int Run(int argc, char* argv[]) {
     application.require_subcommand(1);
     const WindCommands wind(application);
     const StockCommands stock(application);
+    const CheckCommand check(application);
     const TallyCommands tally(application);
 
     std::string formula;

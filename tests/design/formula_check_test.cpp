@@ -3,6 +3,7 @@
 #include "design/formula_check.h"
 
 #include "design/formula_reading.h"
+#include "design/type_check.h"
 #include "support/main_store.h"
 
 namespace kalvane::test {
@@ -105,6 +106,22 @@ TEST_F(FormulaCheck, PiecesAreTriedWithTheSizesOfTheLatestWindow) {
               "门窗板材第3行 数量：算出来是 0，不足一件\n"
               "门窗板材第3行 长公式：算出来是 -500\n"
               "门窗配件第2行 数量：算出来是 0.4761905，不足一件\n");  // 0.526 rounds to 1
+}
+
+TEST_F(FormulaCheck, AllTypesAreSearchedForWhatOutputsWillMiss) {
+    Insert({"门窗 (系列编号,编号,名称,图号) values(1,3,'固定',7)",
+            "门窗 (系列编号,编号,名称) values(1,4,'无图')",
+            "窗型材 (窗号,编号,规格,数量,计算公式) values(3,1,'PK','2','B+b1')",
+            "窗型材 (窗号,编号,规格,数量,计算公式) values(3,2,'PX','2','B)^2')",
+            "窗配件 (窗号,编号,规格,数量) values(4,1,'S','B')"});
+    std::string lines;
+    for (const TypeFinding& each : FindingsOfAllTypes(*store_)) {
+        lines += each.type + " " + FindingLine(each.finding) + "\n";
+    }
+    EXPECT_EQ(lines,
+              "固定 门窗型材第2行 规格：材料库中没有“PX”\n"
+              "固定 门窗型材第2行 计算公式：右括号多于左括号，无法计算\n"
+              "无图 门窗配件第1行 数量：图中没有标注“B”\n");
 }
 
 }  // namespace

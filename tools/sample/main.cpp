@@ -228,6 +228,44 @@ void ShowDesk(MDIMain& frame) {
     desk->close();
 }
 
+/// The first node of that name, selected and in sight.
+void ChooseNode(QWidget* screen, const QString& name) {
+    auto* tree = Control<QTreeWidget>(screen, "Tvw");
+    const auto nodes = tree->findItems(name, Qt::MatchRecursive | Qt::MatchExactly);
+    if (nodes.isEmpty()) qFatal("no node %s", qPrintable(name));
+    tree->setCurrentItem(nodes.front());
+    tree->scrollToItem(nodes.front());
+}
+
+/// The window types and the designer of one of them, with two rows that are not right.
+void ShowDesigner(MDIMain& frame) {
+    frame.findChild<QAction*>("mnuDesign")->trigger();
+    QWidget* types = Shown("FrmDesign");
+    ChooseNode(types, QString::fromUtf8("内开内倒窗"));
+    TakePicture(types, "FrmDesign");
+    WhenShown("FrmMCGS", [](QWidget* designer) {
+        ChooseNode(designer, QString::fromUtf8("PK60平开系列"));
+        auto* profiles = Control<ReportList>(designer, "LvwXC");
+        const char* const rows[][2] = {{"pk60-04", "B-2*60+2*8+6"}, {"PK60-04", "H-2*kh1+2*8+6"}};
+        for (int i = 0; i < 2; ++i) {
+            profiles->SelectRow(2 + i);
+            Q_EMIT profiles->itemDoubleClicked(profiles->currentItem(), 0);
+            Control<QLineEdit>(designer, "Text1(1)")->setText(rows[i][0]);
+            Control<QLineEdit>(designer, "Text1(3)")->setText(rows[i][1]);
+            if (i == 1) TakePicture(designer, "FrmMCGS");
+            Press(designer, "CmdOk");
+        }
+        WhenShown("frmFormulaCheck", [](QWidget* check) {
+            TakePicture(check, "frmFormulaCheck");
+            Leave(check);
+        });
+        Press(designer, "CmdCheck");
+        Leave(designer);
+    });
+    Press(types, "CmdDesignMC");
+    Leave(types);
+}
+
 void ShowManualList(MDIMain& frame) {
     WhenShown("frmYHMain", [](QWidget* module) {
         WhenShown("frmHandup", [](QWidget* screen) {
@@ -330,6 +368,7 @@ void Run() {
     App().optimise.YHBL = 0.98F;
 
     ShowDesk(frame);
+    ShowDesigner(frame);
     QWidget* windows = OpenSample(frame);
     ShowNewWindow(windows);
     RunWizard(windows);

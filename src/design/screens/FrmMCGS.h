@@ -1,21 +1,18 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
-#include "design/catalogue_codes.h"
-#include "design/formula_check.h"
 #include "design/formula_designer.h"
 #include "design/formula_edits.h"
 #include "ui/entry_screen.h"
 
-class QLabel;
 class QPushButton;
 
 namespace kalvane {
 
-class FormulaTabs;
+class FormulaEditor;
 class MaterialChooser;
-class RowFrame;
 class TestValueTable;
 class TypePicture;
 
@@ -40,17 +37,13 @@ class FrmMCGS final : public EntryScreen {
 
   private:
     void LayOut();
-    void Connect();
+    void SetKeys();
     QPushButton* Command(const char* name, const QString& caption, void (FrmMCGS::*work)(),
                          const QString& toolTip = {});
+    void EnableCommands();
 
     /// Runs a command on the lists and shows what has become of them.
     void Change(const std::function<void(FormulaLists&)>& command);
-    void ShowLists();
-    /// The line about the selected row.
-    void ShowRow();
-    QString HintFor(MaterialClass materialClass, const FormulaTexts& texts) const;
-    void EnableCommands(bool enabled);
 
     void SelectMaterial();
     void Remove();
@@ -70,25 +63,14 @@ class FrmMCGS final : public EntryScreen {
     /// Names what the save would lose or what the catalogue has not; false to go back.
     bool ConfirmSave();
 
-    void OpenRow();
-    void ConfirmRow();
-    void CloseRow();
-
     FormulaDesigner designer_;
-    CatalogueCodes codes_;
-    std::vector<std::string> labels_;  ///< names in the drawing
     TypePicture* picture_;
     TestValueTable* tests_;
     MaterialChooser* materials_;
-    FormulaTabs* tabs_;
-    RowFrame* frame_;
-    QLabel* line_;
+    FormulaEditor* editor_;
     QList<QPushButton*> commands_;  ///< that the open row frame disables
-    QPushButton* undo_;
-    QPushButton* redo_;
-    std::vector<FormulaFinding> findings_;
-    MaterialClass editClass_ = MaterialClass::Profile;
-    std::size_t editRow_ = 0;  ///< the row in the frame
+    QPushButton* undo_ = nullptr;
+    QPushButton* redo_ = nullptr;
 };
 
 }  // namespace kalvane
