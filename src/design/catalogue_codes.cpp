@@ -1,29 +1,17 @@
 #include "design/catalogue_codes.h"
 
+#include "catalogue/catalogue_class.h"
+
 namespace kalvane {
-namespace {
-
-const char* SelectCodes(MaterialClass materialClass) {
-    switch (materialClass) {
-        case MaterialClass::Profile:
-            return "Select 型材型号 from 型材";
-        case MaterialClass::Steel:
-            return "Select 型钢规格 from 型钢";
-        case MaterialClass::Panel:
-            return "Select 玻璃名称 from 玻璃";
-        case MaterialClass::Fitting:
-            break;
-    }
-    return "Select 配件规格 from 配件";
-}
-
-}  // namespace
-
 CatalogueCodes::CatalogueCodes(Connection& connection) {
-    for (const MaterialClass materialClass : kListClasses) {
-        std::set<std::string>& codes = codes_[static_cast<std::size_t>(materialClass)];
-        Cursor row = connection.OpenCursor(SelectCodes(materialClass));
-        for (; !row.Eof(); row.MoveNext()) codes.insert(row.Field(0).TextOrEmpty());
+    for (const CatalogueClass& materials : CatalogueClasses()) {
+        for (const MaterialClass each : kListClasses) {
+            if (std::string_view(materials.formulaTable) != FormulaTableOf(each).name) continue;
+            std::set<std::string>& codes = codes_[static_cast<std::size_t>(each)];
+            Cursor row = connection.OpenCursor(
+                std::string("Select ") + materials.columns[materials.code].name + " from " + materials.table);
+            for (; !row.Eof(); row.MoveNext()) codes.insert(row.Field(0).TextOrEmpty());
+        }
     }
 }
 

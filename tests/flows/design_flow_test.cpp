@@ -363,6 +363,34 @@ TEST_F(DesignFlow, WhatWouldBeLostIsNamedBeforeSaving) {
     EXPECT_EQ(Rows("Select 名称 from 窗型材 where 窗号=1"), before);
 }
 
+TEST_F(DesignFlow, FormulasGoOutToAWorkbookAndComeInAgain) {
+    FrmDesign screen(nullptr);
+    screen.show();
+    dialogs_.files = {InFolder("formulas.xlsx")};
+    Press(screen, "CmdOutGS");
+    EXPECT_EQ(dialogs_.TakeShown(),
+              "提示|确认您的系统上是否安装了Excel软件\n提示|已保存到：" + InFolder("formulas.xlsx"))
+        << "no desktop is there to open it";
+    EXPECT_EQ(screen.windowTitle(), "门窗设计");
+    Press(screen, "CmdInputGS");
+    EXPECT_EQ(dialogs_.TakeShown(), "提示|当前状态下不能导入公式！必须在系列状态");
+    Choose(screen, "组合门窗");
+    dialogs_.files = {QString(), InFolder("formulas.xlsx"), InFolder("formulas.xlsx")};
+    dialogs_.answers = {false, true};
+    for (int i = 0; i < 3; ++i) {
+        Choose(screen, "组合门窗");
+        Press(screen, "CmdInputGS");
+    }
+    EXPECT_EQ(screen.windowTitle(), "设计门窗");
+    EXPECT_EQ(Rows("Select 系列编号,编号,名称,图号 from 门窗 where 编号=31"), "4|31|单格固定窗|1");
+    EXPECT_EQ(Rows("Select max(编号) from 门窗"), "60") << "all thirty types once more";
+    EXPECT_EQ(Rows("Select 名称,规格,数量,计算公式 from 窗型材 where 窗号=31"),
+              Rows("Select 名称,规格,数量,计算公式 from 窗型材 where 窗号=1"));
+    const std::string types = Rows("Select 编号 from 门窗 where 系列编号=4");
+    EXPECT_EQ(Node(screen, "组合门窗")->childCount(), std::count(types.begin(), types.end(), '\n') + 1);
+    EXPECT_EQ(dialogs_.shown.filter("要导入吗？").size(), 2);
+}
+
 TEST_F(DesignFlow, FormulasThatWereNotSavedAreOfferedAgain) {
     {
         FrmDesign screen(nullptr);

@@ -4,6 +4,7 @@
 #include <QSplitter>
 
 #include "design/screens/FrmMCGS.h"
+#include "design/screens/formula_exchange.h"
 #include "design/screens/frmInputMC.h"
 #include "design/screens/type_clipboard.h"
 #include "design/screens/type_picture.h"
@@ -106,6 +107,8 @@ void FrmDesign::Connect() {
     OnSignal(deleteSeries_, &QPushButton::clicked, this, [this] { Delete(Level::Series()); });
     OnSignal(deleteType_, &QPushButton::clicked, this, [this] { Delete(Level::Type()); });
     OnSignal(design_, &QPushButton::clicked, this, [this] { DesignType(); });
+    OnSignal(output_, &QPushButton::clicked, this, [this] { ExportFormulas(this); });
+    OnSignal(input_, &QPushButton::clicked, this, [this] { Import(); });
     OnSignal(recover_, &QPushButton::clicked, this, [this] { Recover(); });
     OnSignal(exit_, &QPushButton::clicked, this, [this] { Leave(); });
 }
@@ -217,6 +220,13 @@ void FrmDesign::DesignType() {
     shelf_.PutAside();
     FrmMCGS(NodeTree::Id(node), shelf_, this).exec();
     ShowSelected();
+}
+
+void FrmDesign::Import() {
+    // What came in before a failure is in the store as well.
+    bool imported = true;
+    const bool isWell = Guarded(this, [&] { imported = ImportFormulasInto(tvw_->Selected(), this); });
+    if (imported || !isWell) Load();
 }
 
 void FrmDesign::Recover() {

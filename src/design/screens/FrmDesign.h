@@ -46,6 +46,7 @@ class FrmDesign final : public Screen {
     void EditType();
     void Delete(const Level& level);
     void DesignType();
+    void Import();
     /// Takes up formulas that were not saved.
     void Recover();
 

@@ -1,6 +1,7 @@
 #include "design/screens/material_chooser.h"
 
-#include "design/materials.h"
+#include "catalogue/catalogue.h"
+#include "numeric/assertion.h"
 #include "session/app_state.h"
 #include "ui/guard.h"
 #include "ui/node_tree.h"
@@ -12,11 +13,22 @@ namespace {
 
 constexpr const char* kLeaves = "2345";  // all nodes but makers of profiles list materials
 constexpr int kHiddenColumns = 2;
+constexpr int kName = 0;
+constexpr int kCode = 1;  // not of a panel
+constexpr int kUnit = 2;  // of a fitting
 
-QStringList ToQtList(const std::vector<std::string>& texts) {
-    QStringList list;
-    for (const std::string& text : texts) list << ToQt(text);
-    return list;
+QStringList HeadingsOf(const CatalogueClass& materials) {
+    QStringList headings;
+    for (const MaterialColumn& column : materials.columns) headings << QString::fromUtf8(column.heading);
+    return headings << QString::fromUtf8(materials.parentColumn) << QStringLiteral("编号");
+}
+
+/// The class of materials as formulas know it.
+MaterialClass ClassOf(const CatalogueClass& materials) {
+    for (const MaterialClass each : kListClasses) {
+        if (std::string_view(materials.formulaTable) == FormulaTableOf(each).name) return each;
+    }
+    KALVANE_ASSERT(false);
 }
 
 }  // namespace
@@ -33,26 +45,31 @@ MaterialChooser::MaterialChooser(QWidget* screen)
 }
 
 void MaterialChooser::Load() {
-    tree_->Show(LoadMaterialTree(App().Main()));
+    tree_->Show(LoadCatalogueTree(App().Main()));
 }
 
 void MaterialChooser::ShowMaterials() {
     const QTreeWidgetItem* node = tree_->Selected();
-    const MaterialList materials =
-        node == nullptr ? MaterialList() : LoadMaterials(App().Main(), NodeTree::Tag(node));
-    class_ = materials.materialClass;
+    const CatalogueClass* materials = node == nullptr ? nullptr : ClassOfKind(NodeTree::Kind(node));
+    if (materials == nullptr) return list_->SetColumns({});
+    class_ = ClassOf(*materials);
     QList<QStringList> rows;
-    for (const auto& row : materials.rows) rows << ToQtList(row);
-    list_->SetColumns(ToQtList(materials.headings), materials.headings.empty() ? 0 : kHiddenColumns);
+    for (const MaterialTexts& texts : LoadMaterials(App().Main(), *materials, NodeTree::Id(node))) {
+        QStringList row;
+        for (const std::string& text : texts) row << ToQt(text);
+        rows << row;
+    }
+    list_->SetColumns(HeadingsOf(*materials), kHiddenColumns);
     list_->AddRows(rows);
 }
 
 std::optional<Material> MaterialChooser::SelectedOrTell() const {
     const int row = list_->SelectedOrTell(QStringLiteral("没有选取所需加入的材料"));
     if (row < 0) return std::nullopt;
-    std::vector<std::string> texts;
-    for (const QString& text : list_->Row(row)) texts.push_back(FromQt(text));
-    return MaterialOf(class_, texts);
+    Material material{class_, FromQt(list_->Text(row, kName)), {}, {}};
+    if (class_ != MaterialClass::Panel) material.code = FromQt(list_->Text(row, kCode));
+    if (class_ == MaterialClass::Fitting) material.unit = FromQt(list_->Text(row, kUnit));
+    return material;
 }
 
 }  // namespace kalvane
