@@ -125,11 +125,11 @@ void CPictire::PrintPicture(PageTarget& page) const {
 
 void CPictire::PrintTemplate01(PageTarget& page, Connection& connection, const ComponentSheet& sheet) {
     OpenFileEX(connection, sheet.drawingNumber);
-    OutMCNoStr(page, kFrame, kSheetDrawingBox);
+    OutMCNoStr(page, kFrame, sheet.drawingBox);
     PaintComponentSheet(page, sheet);
 }
 
-void CPictire::PrintTemp02(PageTarget& page, Connection& connection, std::string_view number,
+void CPictire::PrintTemp02(PaintTarget& page, Connection& connection, std::string_view number,
                            std::span<const PageLabel> labels) {
     OpenFileEX(connection, number);
     OutMCNoStr(page, kFrame, kDrawingPageBox);

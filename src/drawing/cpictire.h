@@ -125,7 +125,7 @@ class CPictire {
     void PrintTemplate01(PageTarget& page, Connection& connection, const ComponentSheet& sheet);
 
     /// Prints the bare drawing page: the drawing without its texts, and the labels.
-    void PrintTemp02(PageTarget& page, Connection& connection, std::string_view number,
+    void PrintTemp02(PaintTarget& page, Connection& connection, std::string_view number,
                      std::span<const PageLabel> labels);
 
     // --- On the drawing desk: bind canvas, status bar and text dialog before anything below. They are not

@@ -27,7 +27,7 @@ class MCPicture {
     void PrintTMP(PageTarget& page, Connection& connection, const ComponentSheet& sheet) {
         picture_.PrintTemplate01(page, connection, sheet);
     }
-    void PrintTMP02(PageTarget& page, Connection& connection, std::string_view number,
+    void PrintTMP02(PaintTarget& page, Connection& connection, std::string_view number,
                     std::span<const PageLabel> labels) {
         picture_.PrintTemp02(page, connection, number, labels);
     }

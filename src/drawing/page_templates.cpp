@@ -64,11 +64,8 @@ void PaintGrid(Pen& pen) {
 }
 
 void PaintHead(Pen& pen, const std::array<std::string, 12>& titles) {
-    for (std::size_t i = 0; i < titles.size(); ++i) {
-        const HeadPlace& place = kHead[i];
-        pen.Text(place.x - kCaptionWidth, place.y, place.caption);
-        pen.Text(place.x, place.y, titles[i]);
-    }
+    for (const HeadPlace& place : kHead) pen.Text(place.x - kCaptionWidth, place.y, place.caption);
+    for (std::size_t i = 0; i < titles.size(); ++i) pen.Text(kHead[i].x, kHead[i].y, titles[i]);
 }
 
 /// One half of the first page's table: 23 rows from behind `rowsBefore` on.
@@ -123,6 +120,13 @@ PageLabel LabelOnPage(double px, double py, std::string text) {
             std::move(text)};
 }
 
+PageLabel LabelInBox(double px, double py, std::string text, const Box& box) {
+    const auto along = [](double at, float from, float to, float frame) {
+        return static_cast<float>(at * ((double{to} - double{from}) / double{frame}) + double{from});
+    };
+    return {along(px, box.x1, box.x2, kFrameWidth), along(py, box.y1, box.y2, kFrameHeight), std::move(text)};
+}
+
 void SheetTable::SetCell(int column, int row, std::string text) {
     KALVANE_ASSERT(column >= 1 && column <= kColumns && row >= 1);
     if (static_cast<std::size_t>(row) > rows_.size()) rows_.resize(static_cast<std::size_t>(row));
@@ -151,7 +155,7 @@ void PaintComponentSheet(PageTarget& page, const ComponentSheet& sheet) {
     }
 }
 
-void PaintLabels(PageTarget& page, std::span<const PageLabel> labels) {
+void PaintLabels(PaintTarget& page, std::span<const PageLabel> labels) {
     for (const PageLabel& label : labels) {
         if (!label.text.empty()) page.DrawText(label.x, label.y, label.text);
     }

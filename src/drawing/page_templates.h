@@ -22,6 +22,9 @@ struct PageLabel {
 /// units. The bare drawing page takes the same places, although its box is another one.
 PageLabel LabelOnPage(double px, double py, std::string text);
 
+/// The same at its place in another box for the drawing.
+PageLabel LabelInBox(double px, double py, std::string text, const Box& box);
+
 /// The table of a component sheet: five columns of texts, columns and rows counted from 1.
 class SheetTable {
   public:
@@ -35,6 +38,10 @@ class SheetTable {
     std::vector<std::array<std::string, kColumns>> rows_;
 };
 
+/// Boxes of the two pages for the drawing's frame.
+inline constexpr Box kSheetDrawingBox{0, 1000, 5500, 4917};
+inline constexpr Box kDrawingPageBox{0, 500, 5000, 4917};
+
 /// The content of a component-sheet page.
 struct ComponentSheet {
     std::string drawingNumber;
@@ -43,6 +50,7 @@ struct ComponentSheet {
     std::int16_t rowCount = 0;
     std::vector<PageLabel> labels;
     std::string maker;  ///< the workshop's name
+    Box drawingBox = kSheetDrawingBox;
 };
 
 /// Paints what is on a component sheet besides its drawing, and the pages that continue its table: the
@@ -51,10 +59,6 @@ struct ComponentSheet {
 void PaintComponentSheet(PageTarget& page, const ComponentSheet& sheet);
 
 /// Prints labels with a text.
-void PaintLabels(PageTarget& page, std::span<const PageLabel> labels);
-
-/// Boxes of the two pages for the drawing's frame.
-inline constexpr Box kSheetDrawingBox{0, 1000, 5500, 4917};
-inline constexpr Box kDrawingPageBox{0, 500, 5000, 4917};
+void PaintLabels(PaintTarget& page, std::span<const PageLabel> labels);
 
 }  // namespace kalvane

@@ -10,8 +10,8 @@
 namespace kalvane {
 namespace {
 
-/// Reads name and value of every row; a cursor without rows gives an empty set.
-LabelSet ReadLabels(Cursor& rows, std::string_view nameColumn, std::string_view valueColumn) {
+/// Reads name and value of every row, in the order of the rows; a cursor without rows gives an empty set.
+LabelSet ReadRows(Cursor& rows, std::string_view nameColumn, std::string_view valueColumn) {
     LabelSet labels;
     const int name = rows.FieldIndex(nameColumn);
     const int value = rows.FieldIndex(valueColumn);
@@ -22,8 +22,20 @@ LabelSet ReadLabels(Cursor& rows, std::string_view nameColumn, std::string_view 
     labels.px.resize(labels.names.size());
     labels.py.resize(labels.names.size());
     labels.last = Checked16(static_cast<std::int64_t>(labels.names.size()) - 1);
+    return labels;
+}
+
+LabelSet Sorted(LabelSet labels) {
     SortLabelsByLength(labels.names, labels.values, labels.px, labels.py, labels.last);
     return labels;
+}
+
+Cursor PlainLabelRows(Connection& connection, std::string_view windowId) {
+    return connection.OpenCursor("Select * from 标注 where MCNUM=" + std::string(windowId));
+}
+
+std::int32_t PlaceIn(const FieldValue& field) {
+    return field.IsNull() ? 0 : RoundToInt32(field.Number());
 }
 
 /// False when a text in capitals cannot hold the name: it lacks its first letter. Most labels of a window
@@ -34,11 +46,37 @@ bool MayOccur(std::string_view capitals, std::string_view name) {
     return capitals.find(first) != std::string_view::npos;
 }
 
+/// The formula in capitals with the labels 0 to `last` put in.
+std::string PutIn(std::string_view formula, const std::vector<std::string>& names,
+                  const std::vector<std::string>& values, std::int16_t last) {
+    const auto count = static_cast<std::size_t>(last + 1);
+    KALVANE_ASSERT(names.size() >= count && values.size() >= count);
+    std::string text = UpperCase(formula);
+    for (std::size_t i = 0; i < count; ++i) {
+        // A value goes in as it stands, and counts in capitals from the next label on.
+        if (MayOccur(text, names[i]) && Substitute(text, UpperCase(names[i]), values[i])) {
+            MakeUpperCase(text);
+        }
+    }
+    return text;
+}
+
 }  // namespace
 
 LabelSet LoadPlainLabels(Connection& connection, std::string_view windowId) {
-    Cursor rows = connection.OpenCursor("Select * from 标注 where MCNUM=" + std::string(windowId));
-    return ReadLabels(rows, "MC", "schar");
+    Cursor rows = PlainLabelRows(connection, windowId);
+    return Sorted(ReadRows(rows, "MC", "schar"));
+}
+
+LabelSet LoadPlacedLabels(Connection& connection, std::string_view windowId) {
+    Cursor rows = PlainLabelRows(connection, windowId);
+    LabelSet labels = ReadRows(rows, "MC", "schar");
+    rows.MoveFirst();
+    for (std::size_t i = 0; !rows.Eof(); rows.MoveNext(), ++i) {
+        labels.px[i] = PlaceIn(rows.Field("px"));
+        labels.py[i] = PlaceIn(rows.Field("py"));
+    }
+    return Sorted(std::move(labels));
 }
 
 void LoadMemberLabels(Connection& connection, std::string_view windowId, std::string_view cbn,
@@ -48,7 +86,7 @@ void LoadMemberLabels(Connection& connection, std::string_view windowId, std::st
                               " and CBN=" + std::string(cbn) + " and CMC='" + std::string(cmc) + "'");
     if (rows.Eof()) return;
     count = RoundToInt16(rows.Field("Count").Number());
-    labels = ReadLabels(rows, "MC", "MCZ");
+    labels = Sorted(ReadRows(rows, "MC", "MCZ"));
 }
 
 void SortLabelsByLength(std::vector<std::string>& names, std::vector<std::string>& values,
@@ -70,18 +108,13 @@ void SortLabelsByLength(std::vector<std::string>& names, std::vector<std::string
     }
 }
 
+std::string WithLabels(std::string_view formula, const LabelSet& labels) {
+    return PutIn(formula, labels.names, labels.values, labels.last);
+}
+
 float EvalWithLabels(std::string_view formula, const std::vector<std::string>& names,
                      const std::vector<std::string>& values, std::int16_t last) {
-    const auto count = static_cast<std::size_t>(last + 1);
-    KALVANE_ASSERT(names.size() >= count && values.size() >= count);
-    std::string text = UpperCase(formula);
-    for (std::size_t i = 0; i < count; ++i) {
-        // A value goes in as it stands, and counts in capitals from the next label on.
-        if (MayOccur(text, names[i]) && Substitute(text, UpperCase(names[i]), values[i])) {
-            MakeUpperCase(text);
-        }
-    }
-    return Cal().CalExpress(text);
+    return Cal().CalExpress(PutIn(formula, names, values, last));
 }
 
 }  // namespace kalvane

@@ -21,6 +21,9 @@ struct LabelSet {
 /// Labels of a plain project window (工程门窗.编号), sorted. Throws StoreError, and NumericError for a Null.
 LabelSet LoadPlainLabels(Connection& connection, std::string_view windowId);
 
+/// As LoadPlainLabels, with the places of the labels in the drawing; one that is Null is 0.
+LabelSet LoadPlacedLabels(Connection& connection, std::string_view windowId);
+
 /// Labels of a composite's member, sorted, and how many of it one composite has. A member without label rows
 /// leaves both as they were. Throws StoreError, and NumericError for a Null or a count beyond 16 bits.
 void LoadMemberLabels(Connection& connection, std::string_view windowId, std::string_view cbn,
@@ -30,6 +33,10 @@ void LoadMemberLabels(Connection& connection, std::string_view windowId, std::st
 /// it. A set of fewer than two labels is left as it is.
 void SortLabelsByLength(std::vector<std::string>& names, std::vector<std::string>& values,
                         std::vector<std::int32_t>& px, std::vector<std::int32_t>& py, std::int16_t last);
+
+/// A formula with the labels put in one after the other, in the order given, in capitals: the text that is
+/// evaluated. Throws FormulaError as Cal does.
+std::string WithLabels(std::string_view formula, const LabelSet& labels);
 
 /// The value of a formula with the labels 0 to `last` put in one after the other, in the order given. Names
 /// are looked for anywhere in the text, without regard to case. Throws FormulaError as Cal does.
