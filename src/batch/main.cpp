@@ -3,6 +3,7 @@
 
 #include "batch/check_command.h"
 #include "batch/commands.h"
+#include "batch/sheet_commands.h"
 #include "batch/stock_commands.h"
 #include "batch/tally_commands.h"
 #include "batch/wind_commands.h"
@@ -41,13 +42,14 @@ std::vector<std::string> Arguments(int argc, char* argv[]) {
 int Run(int argc, char* argv[]) {
     CLI::App application(
         "Kalvane without a screen: formulas, bills of material, cutting plans, material and settlement, "
-        "wind-pressure checks and the warehouse",
+        "component sheets, wind-pressure checks and the warehouse",
         "kalvane-batch");
     application.require_subcommand(1);
     const WindCommands wind(application);
     const StockCommands stock(application);
     const CheckCommand check(application);
     const TallyCommands tally(application);
+    const SheetCommands sheets(application);
 
     std::string formula;
     std::vector<std::string> labels;

@@ -46,7 +46,7 @@ bool MayOccur(std::string_view capitals, std::string_view name) {
     return capitals.find(first) != std::string_view::npos;
 }
 
-/// The formula in capitals with the labels 0 to `last` put in.
+/// The labels 0 to `last` put in one after the other.
 std::string PutIn(std::string_view formula, const std::vector<std::string>& names,
                   const std::vector<std::string>& values, std::int16_t last) {
     const auto count = static_cast<std::size_t>(last + 1);
@@ -108,7 +108,7 @@ void SortLabelsByLength(std::vector<std::string>& names, std::vector<std::string
     }
 }
 
-std::string WithLabels(std::string_view formula, const LabelSet& labels) {
+std::string WithValues(std::string_view formula, const LabelSet& labels) {
     return PutIn(formula, labels.names, labels.values, labels.last);
 }
 

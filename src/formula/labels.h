@@ -34,9 +34,8 @@ void LoadMemberLabels(Connection& connection, std::string_view windowId, std::st
 void SortLabelsByLength(std::vector<std::string>& names, std::vector<std::string>& values,
                         std::vector<std::int32_t>& px, std::vector<std::int32_t>& py, std::int16_t last);
 
-/// A formula with the labels put in one after the other, in the order given, in capitals: the text that is
-/// evaluated. Throws FormulaError as Cal does.
-std::string WithLabels(std::string_view formula, const LabelSet& labels);
+/// A formula as it is evaluated: in capitals, with the labels' values put in.
+std::string WithValues(std::string_view formula, const LabelSet& labels);
 
 /// The value of a formula with the labels 0 to `last` put in one after the other, in the order given. Names
 /// are looked for anywhere in the text, without regard to case. Throws FormulaError as Cal does.

@@ -49,11 +49,13 @@ Box OfFrameShape(const Box& box) {
             static_cast<float>(top + height)};
 }
 
-void KeepShape(ComponentSheet& page, const LabelSet& labels) {
-    page.drawingBox = OfFrameShape(kSheetDrawingBox);
-    for (std::size_t i = 0; i < page.labels.size(); ++i) {
-        page.labels[i] = LabelInBox(labels.px[i], labels.py[i], labels.values[i], page.drawingBox);
+/// The labels at their places in another box.
+std::vector<PageLabel> LabelsIn(const Box& box, const LabelSet& labels) {
+    std::vector<PageLabel> placed;
+    for (std::size_t i = 0; i < labels.names.size(); ++i) {
+        placed.push_back(LabelInBox(labels.px[i], labels.py[i], labels.values[i], box));
     }
+    return placed;
 }
 
 /// Project, number of the sheet, and the window.
@@ -63,10 +65,26 @@ std::string MarkOf(const ComponentSheet& page) {
 
 }  // namespace
 
+void PaintSheetDrawing(PageTarget& target, Connection& connection, const WorkedOutSheet& sheet,
+                       const SheetOptions& options, Notice& notice) {
+    MCPicture picture(notice);
+    if (!options.keepsShape) {
+        picture.PrintTMP02(target, connection, sheet.page.drawingNumber, sheet.page.labels);
+        return;
+    }
+    const Box box = OfFrameShape(kDrawingPageBox);
+    picture.OpenFileEX(connection, sheet.page.drawingNumber);
+    picture.OutMCNoStr(target, box);
+    PaintLabels(target, LabelsIn(box, sheet.labels));
+}
+
 void PaintSheet(PageTarget& target, Connection& connection, const WorkedOutSheet& sheet,
                 const SheetOptions& options, Notice& notice) {
     ComponentSheet page = ForPrinting(sheet.page);
-    if (options.keepsShape) KeepShape(page, sheet.labels);
+    if (options.keepsShape) {
+        page.drawingBox = OfFrameShape(kSheetDrawingBox);
+        page.labels = LabelsIn(page.drawingBox, sheet.labels);
+    }
     MCPicture picture(notice);
     if (options.marksPages) {
         MarkedPages marked(target, MarkOf(page));

@@ -39,6 +39,11 @@ class SheetSet {
     std::vector<WindowEntry> windows_;
 };
 
+/// Paints the drawing of a sheet with the values of its labels, and nothing else: the bare drawing page, or
+/// with its proportions kept in the same box.
+void PaintSheetDrawing(PageTarget& target, Connection& connection, const WorkedOutSheet& sheet,
+                       const SheetOptions& options, Notice& notice);
+
 /// Paints a worked out sheet with its continuation pages.
 void PaintSheet(PageTarget& target, Connection& connection, const WorkedOutSheet& sheet,
                 const SheetOptions& options, Notice& notice);

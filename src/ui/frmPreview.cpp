@@ -106,8 +106,7 @@ void frmPreview::FillPrinters() {
         print_->setToolTip(QStringLiteral("没有安装打印机，可以另存为PDF文件"));
     }
     for (QWidget* control :
-         {static_cast<QWidget*>(printers_), static_cast<QWidget*>(copies_), static_cast<QWidget*>(first_),
-          static_cast<QWidget*>(last_), static_cast<QWidget*>(print_)}) {
+         {static_cast<QWidget*>(printers_), static_cast<QWidget*>(copies_), static_cast<QWidget*>(print_)}) {
         control->setEnabled(hasPrinter);
     }
     (hasPrinter ? print_ : pdf_)->setDefault(true);
@@ -140,9 +139,8 @@ void frmPreview::StepZoom(int direction) {
 }
 
 void frmPreview::Print() {
-    const int first = qMin(first_->value(), last_->value());
-    const int last = qMax(first_->value(), last_->value());
-    document_.Print(printers_->currentText(), copies_->value(), first - 1, last - 1);
+    const auto [first, last] = ChosenPages();
+    document_.Print(printers_->currentText(), copies_->value(), first, last);
     Remember(kPrinterKey, printers_->currentText());
     ShowDelivered(QStringLiteral("已送往打印机“%1”。").arg(printers_->currentText()));
 }
@@ -152,8 +150,14 @@ void frmPreview::SavePdf() {
         this,
         {QStringLiteral("pdf"), QStringLiteral("PDF 文件|*.pdf"), QStringLiteral("pdf"), document_.Title()});
     if (file.isEmpty()) return;
-    document_.WritePdf(FromQt(file));
+    const auto [first, last] = ChosenPages();
+    document_.WritePdf(FromQt(file), first, last);
     ShowDelivered(QStringLiteral("已保存：%1").arg(file));
+}
+
+std::pair<int, int> frmPreview::ChosenPages() const {
+    const auto [first, last] = std::minmax({first_->value(), last_->value()});
+    return {first - 1, last - 1};
 }
 
 void frmPreview::ShowDelivered(const QString& text) {

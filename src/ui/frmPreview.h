@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "ui/page_document.h"
 #include "ui/screen.h"
 
@@ -32,6 +34,8 @@ class frmPreview : public Screen {
     void StepZoom(int direction);
     void Print();
     void SavePdf();
+    /// The chosen pages, counted from 0.
+    std::pair<int, int> ChosenPages() const;
     void ShowDelivered(const QString& text);
 
     const PageDocument document_;

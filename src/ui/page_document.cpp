@@ -110,7 +110,7 @@ void PageDocument::PaintOn(QPagedPaintDevice& device, int dotsPerInch, int first
     if (!painter.end()) throw Error("打印没有完成，请检查打印机。");
 }
 
-void PageDocument::WritePdf(const std::filesystem::path& path) const {
+void PageDocument::WritePdf(const std::filesystem::path& path, int first, int last) const {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
@@ -118,7 +118,7 @@ void PageDocument::WritePdf(const std::filesystem::path& path) const {
         writer.setResolution(kPdfDotsPerInch);
         writer.setPageLayout(Layout());
         writer.setTitle(title_);
-        PaintOn(writer, kPdfDotsPerInch, 0, PageCount() - 1);
+        PaintOn(writer, kPdfDotsPerInch, first, last);
     }
     const QByteArray& bytes = buffer.data();
     WriteFileAtomically(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});

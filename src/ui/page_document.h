@@ -41,7 +41,9 @@ class PageDocument {
 
     /// Writes all pages, fonts embedded. Throws FileError when the file cannot be written; an existing one
     /// then stays as it was.
-    void WritePdf(const std::filesystem::path& path) const;
+    void WritePdf(const std::filesystem::path& path) const { WritePdf(path, 0, PageCount() - 1); }
+    /// The same for pages `first` to `last`, counted from 0.
+    void WritePdf(const std::filesystem::path& path, int first, int last) const;
 
     /// Prints pages `first` to `last`, counted from 0. Throws Error when the printer refuses.
     void Print(const QString& printer, int copies, int first, int last) const;

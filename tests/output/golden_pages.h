@@ -5,6 +5,7 @@
 #include <string>
 
 #include "support/page_text.h"
+#include "support/paths.h"
 
 namespace kalvane::test {
 
@@ -21,7 +22,7 @@ inline std::string PagesText(const PageRecord& record) {
 
 /// A document as it is to be painted, worked out by tests/output/golden/README.md.
 inline std::string Golden(const std::string& name) {
-    std::ifstream file(KALVANE_SOURCE_DIR "/tests/output/golden/" + name);
+    std::ifstream file(SourceFolder() / "tests/output/golden" / name);
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();

@@ -26,7 +26,7 @@ void PaintThreePages(PageTarget& page) {
 }
 
 TEST_F(PageOutput, WithoutAPrinterThereArePreviewAndPdf) {
-    dialogs_.files = {QString(), InFolder("表.pdf")};
+    dialogs_.files = {QString(), InFolder("表.pdf"), InFolder("页.pdf")};
     bool wasPutOut = false;
     ModalScript()
         .On("frmPreview",
@@ -39,11 +39,14 @@ TEST_F(PageOutput, WithoutAPrinterThereArePreviewAndPdf) {
                 Press(preview, "CmdPdf");
                 EXPECT_EQ(Find<QLabel>(&preview, "LblTold")->text(),
                           QStringLiteral("已保存：") + InFolder("表.pdf"));
+                Find<QSpinBox>(&preview, "TxtFirst")->setValue(2);
+                Press(preview, "CmdPdf");
             })
         .Run([&] { wasPutOut = PrintDocument(nullptr, "材料表", {}, PaintThreePages); });
     EXPECT_TRUE(wasPutOut);
     const std::string pdf = ReadFile(folder_ / "表.pdf");
     EXPECT_EQ(CountOf(pdf, "/Type /Page\n"), 3);
+    EXPECT_EQ(CountOf(ReadFile(folder_ / "页.pdf"), "/Type /Page\n"), 2) << "pages 2 and 3";
     EXPECT_EQ(CountOf(pdf, "/FontFile"), 1);                       // the glyphs are in the file
     EXPECT_NE(pdf.find("/MediaBox [0 0 595"), std::string::npos);  // A4 upright
 }

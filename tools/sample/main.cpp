@@ -14,6 +14,7 @@
 #include "optimise/plan.h"
 #include "optimise/plan_file.h"
 #include "optimise/run.h"
+#include "output/screens/FrmEasyGJBReport.h"
 #include "platform/settings_store.h"
 #include "project/project_list.h"
 #include "project/project_windows.h"
@@ -336,6 +337,25 @@ void ShowWindChecks(MDIMain& frame) {
     });
 }
 
+/// The sheets of all windows, and the short table of them.
+void ShowSheetsAndShortTable(QWidget* windows) {
+    WhenShown("FrmGJB", [](QWidget* sheet) {
+        TakePicture(sheet, "FrmGJB");
+        SavePdf(sheet, "CmdPrintAll", "sheets");
+        Control<QCheckBox>(sheet, "chkBL")->setChecked(true);
+        SavePdf(sheet, "CmdPrint", "sheet-in-proportion");
+        Press(sheet, "CmdExit");
+    });
+    Control<ReportList>(windows, "Lvw")->SelectRow(1);
+    Press(windows, "CmdPrint");
+    WhenShown("FrmEasyGJBReport", [](QWidget* report) {
+        TakePicture(report, "FrmEasyGJBReport");
+        SavePdf(report, "Command1", "short-table");
+        Press(report, "CmdExit");
+    });
+    ShowShortTable(ListWindows(App().Main(), App().currentProjectId), kProject, windows);
+}
+
 void SavePlan(const std::string& name) {
     const std::string today = FromQt(QDate::currentDate().toString("yyyy-MM-dd"));
     const PlanOutput plan = LoadPlanOutput(App().Main(), kProject, today);
@@ -377,6 +397,7 @@ void Run() {
     RunOptimisation(App().Main(), App().optimise, 1, ListMaterials(App().Main()), notice, {});
     SavePlan("plan-scheme-2");
     SaveWindowPictures();
+    ShowSheetsAndShortTable(windows);
     ShowManualList(frame);
     ShowWindChecks(frame);
     ShowModal(frame, "mnuDatabaseManage", "frmTools", [](QWidget* tools) {

@@ -3,6 +3,7 @@
 #include "backup/screens/frmTools.h"
 #include "design/screens/FrmDesign.h"
 #include "optimise/screens/frmCreate02.h"
+#include "output/screens/FrmGJB.h"
 #include "project/screens/frmMCGCGL.h"
 #include "session/app_state.h"
 #include "ui/main_frame.h"
@@ -11,6 +12,9 @@ namespace kalvane {
 
 ProjectRoads KalvaneKernel::Roads() {
     ProjectRoads roads;
+    roads.sheets = [](QWidget* parent, const Project& project, const std::string& windowNumber) {
+        ShowSheets(project.number, windowNumber, parent);
+    };
     roads.optimise = [](QWidget* parent, const Project& project) {
         App().YHScheme = 0;
         App().optimiseProjectName = project.name;

@@ -38,7 +38,7 @@ frmOpenGC::frmOpenGC(ProjectRoads roads, QWidget* parent)
     QPushButton* optimise =
         MakeButton("cmdYH", QStringLiteral("优化"), this, QStringLiteral("选择本工程的门窗，优化下料"));
     QPushButton* exit = MakeButton("CmdExit", QStringLiteral("退出"), this, QStringLiteral("Esc"));
-    for (QPushButton* button : {composite, sheets, totals}) MarkAsComing(button);
+    for (QPushButton* button : {composite, totals}) MarkAsComing(button);
     edit->setDefault(true);
 
     lvw_->OfferInMenu({edit, add, del});
@@ -52,6 +52,7 @@ frmOpenGC::frmOpenGC(ProjectRoads roads, QWidget* parent)
     OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Edit(); });
     OnSignal(del, &QPushButton::clicked, this, [this] { Delete(); });
     OnSignal(number, &QPushButton::clicked, this, [this] { AskStartNumber(); });
+    OnSignal(sheets, &QPushButton::clicked, this, [this] { ShowSheets(); });
     OnSignal(optimise, &QPushButton::clicked, this, [this] { Optimise(); });
     OnSignal(exit, &QPushButton::clicked, this, [this] { Leave(); });
 }
@@ -148,6 +149,11 @@ void frmOpenGC::AskStartNumber() {
             .InputText(this, QStringLiteral("输入"), QStringLiteral("输入构件表的起始号码："), ToQt(current))
             .value_or(QString());
     settings.Save(kSettingsApplication, kSectionMain, kStartNumberKey, FromQt(number));
+}
+
+void frmOpenGC::ShowSheets() {
+    if (lvw_->SelectedOrTell(QStringLiteral("当前工程中没有可打印的门窗！")) < 0) return;
+    roads_.sheets(this, project_, FromQt(SelectedNumber()));
 }
 
 void frmOpenGC::Optimise() {

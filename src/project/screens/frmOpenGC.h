@@ -32,6 +32,7 @@ class frmOpenGC : public Screen {
     void Edit();
     void Delete();
     void AskStartNumber();
+    void ShowSheets();
     void Optimise();
     /// Runs the screen of one window, and lists the windows anew after every change it makes.
     void RunWindowScreen(frmAddGCMC& screen);
