@@ -1,6 +1,9 @@
 #include "drawing/page_templates.h"
 
+#include <algorithm>
+
 #include "numeric/assertion.h"
+#include "numeric/text.h"
 
 namespace kalvane {
 namespace {
@@ -15,18 +18,24 @@ constexpr int kRowsInContinuationHalf = 33;
 constexpr double kColumnX[] = {100,  667.71, 2180.12, 3716.67, 4854.5,
                                5600, 6345.5, 7483.33, 9019.88, 10532.29};
 
+/// Where the cells end: at the rules right of them.
+constexpr double kColumnEnd[] = {567.71, 2080.12, 3616.67, 4754.5,   5500,
+                                 6245.5, 7383.33, 8919.88, 10432.29, 11000};
+constexpr float kSmallestPoints = 5;
+
 struct HeadPlace {
     const char* caption;
     double x;
     double y;
+    double end;  ///< of its box
 };
 constexpr HeadPlace kHead[] = {
-    {"工程名称", 6620, 1200},       {"定货单位", 6620, 1853},
-    {"图    名", 6620, 2505.71},    {"合同编号", 6620, 3158.57},
-    {"购件表号", 9370.29, 3158.57}, {"制作尺寸", 6620, 3811.43},
-    {"樘    数", 9370.29, 3811.43}, {"设    计", 6620, 4464.29},
-    {"日    期", 9370.29, 4464.14}, {"", 100, 5117.14},
-    {"审    核", 6620, 5117.14},    {"校    对", 9370.29, 5117.14},
+    {"工程名称", 6620, 1200, 11000},       {"定货单位", 6620, 1853, 11000},
+    {"图    名", 6620, 2505.71, 11000},    {"合同编号", 6620, 3158.57, 8250},
+    {"购件表号", 9370.29, 3158.57, 11000}, {"制作尺寸", 6620, 3811.43, 8250},
+    {"樘    数", 9370.29, 3811.43, 11000}, {"设    计", 6620, 4464.29, 8250},
+    {"日    期", 9370.29, 4464.14, 11000}, {"", 100, 5117.14, 5500},
+    {"审    核", 6620, 5117.14, 8250},     {"校    对", 9370.29, 5117.14, 11000},
 };
 constexpr double kCaptionWidth = 1020;
 
@@ -43,7 +52,24 @@ class Pen {
         page_.DrawText(static_cast<float>(x), static_cast<float>(y), text);
     }
 
+    /// A text that would reach beyond `end` is printed smaller.
+    void Text(double x, double y, double end, const std::string& text) {
+        const double room = end - x;
+        // A Chinese character, the widest, is as wide as the font is high.
+        const double most = static_cast<double>(CharCount(text)) * kFont.points * kTwipsPerPoint;
+        const double width = most <= room ? most : page_.TextWidth(text);
+        if (width <= room) {
+            Text(x, y, text);
+            return;
+        }
+        const auto points = static_cast<float>(kFont.points * room / width);
+        page_.SetFont({std::max(points, kSmallestPoints)});
+        Text(x, y, text);
+        page_.SetFont(kFont);
+    }
+
   private:
+    static constexpr double kTwipsPerPoint = 20;
     PageTarget& page_;
 };
 
@@ -65,7 +91,7 @@ void PaintGrid(Pen& pen) {
 
 void PaintHead(Pen& pen, const std::array<std::string, 12>& titles) {
     for (const HeadPlace& place : kHead) pen.Text(place.x - kCaptionWidth, place.y, place.caption);
-    for (std::size_t i = 0; i < titles.size(); ++i) pen.Text(kHead[i].x, kHead[i].y, titles[i]);
+    for (std::size_t i = 0; i < titles.size(); ++i) pen.Text(kHead[i].x, kHead[i].y, kHead[i].end, titles[i]);
 }
 
 /// One half of the first page's table: 23 rows from behind `rowsBefore` on.
@@ -74,7 +100,8 @@ void PaintHalf(Pen& pen, const SheetTable& table, int rowsBefore, int columnsBef
         for (int column = 1; column <= SheetTable::kColumns; ++column) {
             const std::string& text = table.Cell(column, row + rowsBefore);
             if (text.empty()) continue;
-            pen.Text(kColumnX[columnsBefore + column - 1], row * kRowHeight + 5271.3, text);
+            const int across = columnsBefore + column - 1;
+            pen.Text(kColumnX[across], row * kRowHeight + 5271.3, kColumnEnd[across], text);
         }
     }
 }
@@ -107,7 +134,8 @@ void PaintContinuation(PageTarget& page, const SheetTable& table, int start, int
         const int down = isLeft ? place - 1 : place - 1 - kRowsInContinuationHalf;
         for (int column = 1; column <= SheetTable::kColumns; ++column) {
             const int across = isLeft ? column - 1 : column - 1 + SheetTable::kColumns;
-            pen.Text(kColumnX[across], down * kRowHeight + 1100, table.Cell(column, start + k));
+            pen.Text(kColumnX[across], down * kRowHeight + 1100, kColumnEnd[across],
+                     table.Cell(column, start + k));
         }
         ++place;
     }

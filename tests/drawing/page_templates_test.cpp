@@ -85,6 +85,23 @@ TEST_F(PageTemplatesTest, TheSheetStandsInItsPlaces) {
     EXPECT_EQ(page.back(), "500,500 制作单位：厂");
 }
 
+TEST_F(PageTemplatesTest, AWideTextIsPrintedSmaller) {
+    SetRows(24);
+    // At 9 points 1800 and 9000 twips wide; the cell has 7383.33 - 6345.5 = 1037.83 from the text on.
+    sheet_.table.SetCell(2, 24, "十个字那么长的名称啊");
+    sheet_.table.SetCell(2, 25, std::string(100, 'n'));
+    PageRecord page(measure_, 11000, 15900);
+    picture_.PrintTemplate01(page, *store_, sheet_);
+    std::string sizes;
+    for (const PageCommand& command : page.Pages()[0]) {
+        const auto* text = std::get_if<PageText>(&command);
+        if (text == nullptr || text->x != 6345.5F) continue;
+        sizes += ShortText(text->font.points) + " ";
+    }
+    // 9 x 1037.83 / 1800, then the smallest.
+    EXPECT_EQ(sizes, "5.18915 5 ");
+}
+
 TEST_F(PageTemplatesTest, TheTableGoesOn) {
     for (const auto& [rows, count] : {std::pair(46, 1U), {47, 2U}, {112, 2U}, {113, 3U}}) {
         SetRows(rows);

@@ -35,6 +35,8 @@ const QString kTitle = QStringLiteral("生产构件表");
 const PageSetup kPaper;
 const PageSetup kScreenPaper{QPageSize::A4, QPageLayout::Portrait, {0, 0, 0, 0}};
 
+const QString kHeadingMark = QStringLiteral("序号");
+
 /// Caption of each box, and which of the sheet's values it shows.
 struct HeadBox {
     const char* caption;
@@ -146,6 +148,14 @@ void FrmGJB::ShowPage() {
     }
     lvw_->Clear();
     lvw_->AddRows(rows);
+    QFont bold = lvw_->font();
+    bold.setBold(true);
+    for (int row = 0; row < rows.size(); ++row) {
+        if (rows[row][0] != kHeadingMark) continue;
+        for (int column = 0; column < SheetTable::kColumns; ++column) {
+            lvw_->topLevelItem(row)->setFont(column, bold);
+        }
+    }
 
     const auto paint = [&](PageTarget& page) {
         MessageNotice notice(this);
