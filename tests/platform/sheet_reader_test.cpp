@@ -4,6 +4,7 @@
 
 #include "platform/files.h"
 #include "platform/workbook.h"
+#include "support/paths.h"
 #include "support/refusal.h"
 #include "support/temp_folder.h"
 
@@ -68,8 +69,7 @@ TEST(SheetReader, ReadsTheOtherWaysOfWritingASheet) {
 }
 
 TEST(SheetReader, ReadsAnOlderFile) {
-    const std::filesystem::path file =
-        std::filesystem::path(KALVANE_SOURCE_DIR) / "tests/platform/files/formulas.xls";
+    const std::filesystem::path file = SourceFolder() / "tests/platform/files/formulas.xls";
     EXPECT_EQ(Cells(file, 4),
               "门窗名称：推拉窗|7||\n型材名称|型材规格|数量|计算公式\n框|GK60|2-1|=B\n扇||2|0.1\n"
               "合||1234567.5|(B-2*60)/2\n||下|\n");
@@ -85,8 +85,7 @@ TEST(SheetReader, RefusesWhatIsNoWorkbook) {
         EXPECT_NE(refused(bytes).find("工作簿"), std::string::npos) << bytes;
     }
     // A sound file that is cut, or in which a byte is bent, is read or refused; on some the library crashes.
-    const std::string sound =
-        ReadFile(std::filesystem::path(KALVANE_SOURCE_DIR) / "tests/platform/files/formulas.xls");
+    const std::string sound = ReadFile(SourceFolder() / "tests/platform/files/formulas.xls");
     for (std::size_t at = 0; at < sound.size(); at += 64) refused(sound.substr(0, at));
     for (const std::size_t at : {0, 30, 600, 1424, 1440, 1460, 1590, 1680, 1766, 2042, 2170, 2660}) {
         std::string bent = sound;
