@@ -64,9 +64,9 @@ void OpenWindowTypes(benchmark::State& state) {
 BENCHMARK(OpenWindowTypes)->Unit(benchmark::kMillisecond);
 
 void FillSameWidgetsBare(benchmark::State& state) {
-    const QIcon leaf(QStringLiteral(":/ui/design.svg"));
-    const QIcon folder = QApplication::style()->standardIcon(QStyle::SP_DirIcon);
     for (auto _ : state) {
+        const QIcon leaf(QStringLiteral(":/ui/design.svg"));
+        const QIcon folder = QApplication::style()->standardIcon(QStyle::SP_DirIcon);
         QDialog screen;
         auto* tree = new QTreeWidget(&screen);
         tree->setHeaderHidden(true);
@@ -81,6 +81,7 @@ void FillSameWidgetsBare(benchmark::State& state) {
         const auto add = [](const QString& text, const QIcon& icon, QTreeWidgetItem* parent) {
             auto* item = new QTreeWidgetItem(QStringList(text));
             item->setIcon(0, icon);
+            item->setData(0, Qt::UserRole, text);  // every row has its tag
             parent->addChild(item);
             return item;
         };

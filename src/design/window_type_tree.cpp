@@ -12,9 +12,12 @@ constexpr std::size_t kDrawingSlot = 4;
 
 std::vector<TreeNode> LoadLevel(Connection& connection, const char* kind, const std::string& select) {
     std::vector<TreeNode> nodes;
-    for (Cursor row = connection.OpenCursor(select); !row.Eof(); row.MoveNext()) {
-        nodes.push_back(
-            {row.Field("名称").TextOrEmpty(), MakeKey(kind, row.Field("编号").TextOrEmpty()), {}});
+    Cursor row = connection.OpenCursor(select);
+    const int name = row.FieldIndex("名称");
+    const int number = row.FieldIndex("编号");
+    nodes.reserve(static_cast<std::size_t>(row.RecordCount()));
+    for (; !row.Eof(); row.MoveNext()) {
+        nodes.push_back({row.Field(name).TextOrEmpty(), MakeKey(kind, row.Field(number).TextOrEmpty()), {}});
     }
     return nodes;
 }

@@ -26,16 +26,27 @@ NodeTree::NodeTree(const QString& name, const std::string& leafKinds, QWidget* p
 
 void NodeTree::Show(const std::vector<TreeNode>& nodes) {
     clear();
-    for (const TreeNode& node : nodes) Add(node);
+    QList<QTreeWidgetItem*> items;
+    for (const TreeNode& node : nodes) items << MakeItem(node);
+    addTopLevelItems(items);
     if (topLevelItemCount() == 1) expandItem(topLevelItem(0));
     Restore();
 }
 
-QTreeWidgetItem* NodeTree::Add(const TreeNode& node, QTreeWidgetItem* parent) {
+QTreeWidgetItem* NodeTree::MakeItem(const TreeNode& node) const {
     auto* item = new QTreeWidgetItem(QStringList(ToQt(node.name)));
     item->setData(0, kTagRole, ToQt(node.tag));
-    item->setIcon(0, IsLeaf(item) ? leaf_ : folder_);
-    for (const TreeNode& child : node.children) Add(child, item);
+    const bool isLeaf = !node.tag.empty() && leafKinds_.find(KeyKind(node.tag)) != std::string::npos;
+    item->setIcon(0, isLeaf ? leaf_ : folder_);
+    QList<QTreeWidgetItem*> children;
+    children.reserve(static_cast<qsizetype>(node.children.size()));
+    for (const TreeNode& child : node.children) children << MakeItem(child);
+    item->addChildren(children);
+    return item;
+}
+
+QTreeWidgetItem* NodeTree::Add(const TreeNode& node, QTreeWidgetItem* parent) {
+    QTreeWidgetItem* item = MakeItem(node);
     (parent != nullptr ? parent : invisibleRootItem())->addChild(item);
     return item;
 }
@@ -106,8 +117,10 @@ void NodeTree::Restore() {
         Remembered(MemoryKey() + QStringLiteral(".open"), {}).split(kSeparator, Qt::SkipEmptyParts);
     const QSet<QString> tags(open.begin(), open.end());
     const std::string place = FromQt(Remembered(MemoryKey() + QStringLiteral(".place"), {}));
-    for (QTreeWidgetItemIterator node(this); *node != nullptr; ++node) {
-        if (tags.contains(ToQt(Tag(*node)))) (*node)->setExpanded(true);
+    if (!tags.isEmpty()) {
+        for (QTreeWidgetItemIterator node(this); *node != nullptr; ++node) {
+            if (tags.contains((*node)->data(0, kTagRole).toString())) (*node)->setExpanded(true);
+        }
     }
     QTreeWidgetItem* last = place.empty() ? nullptr : Find(place);
     if (last == nullptr) return;

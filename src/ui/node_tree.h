@@ -41,6 +41,8 @@ class NodeTree : public QTreeWidget {
     void hideEvent(QHideEvent* event) override;
 
   private:
+    /// An item with its children, not yet in the tree.
+    QTreeWidgetItem* MakeItem(const TreeNode& node) const;
     QString MemoryKey() const;
     void Restore();
 
