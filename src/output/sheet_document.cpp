@@ -96,7 +96,8 @@ void PaintSheet(PageTarget& target, Connection& connection, const WorkedOutSheet
 
 WorkedOutSheet SheetSet::Sheet(int page) const {
     KALVANE_ASSERT(page >= 1 && page <= PageCount());
-    return WorkOutSheet(connection_, slots_, origin_, windows_[static_cast<std::size_t>(page) - 1], page);
+    return WorkOutSheet(connection_, projectRow_, origin_, windows_[static_cast<std::size_t>(page) - 1],
+                        page);
 }
 
 void SheetSet::Print(PageTarget& target, int first, int last, const SheetOptions& options,

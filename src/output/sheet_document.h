@@ -18,9 +18,13 @@ struct SheetOptions {
 /// The sheets of a project's windows, in their order; the sheet of the window at place n is page n.
 class SheetSet {
   public:
-    /// `connection` and `slots` must outlive this.
-    SheetSet(Connection& connection, FieldSlots& slots, SheetOrigin origin, std::vector<WindowEntry> windows)
-        : connection_(connection), slots_(slots), origin_(std::move(origin)), windows_(std::move(windows)) {}
+    /// `connection` and `projectRow`, which takes the row of the project, must outlive this.
+    SheetSet(Connection& connection, FieldSlots& projectRow, SheetOrigin origin,
+             std::vector<WindowEntry> windows)
+        : connection_(connection),
+          projectRow_(projectRow),
+          origin_(std::move(origin)),
+          windows_(std::move(windows)) {}
 
     int PageCount() const { return static_cast<int>(windows_.size()); }
     const std::vector<WindowEntry>& Windows() const { return windows_; }
@@ -34,7 +38,7 @@ class SheetSet {
 
   private:
     Connection& connection_;
-    FieldSlots& slots_;
+    FieldSlots& projectRow_;
     SheetOrigin origin_;
     std::vector<WindowEntry> windows_;
 };
