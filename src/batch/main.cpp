@@ -4,6 +4,7 @@
 #include "batch/check_command.h"
 #include "batch/commands.h"
 #include "batch/sheet_commands.h"
+#include "batch/formula_commands.h"
 #include "batch/stock_commands.h"
 #include "batch/tally_commands.h"
 #include "batch/wind_commands.h"
@@ -48,6 +49,7 @@ int Run(int argc, char* argv[]) {
     const WindCommands wind(application);
     const StockCommands stock(application);
     const CheckCommand check(application);
+    const FormulaCommands formulas(application);
     const TallyCommands tally(application);
     const SheetCommands sheets(application);
 

@@ -109,6 +109,8 @@ constexpr struct {
     const char* name;
     std::size_t right;
 } kEntries[] = {
+    {"mnuDatabase", 1},
+    {"x1", 1},
     {"mnuDrawPicture", 2},
     {"x2", 2},
     {"mnuDesign", 3},

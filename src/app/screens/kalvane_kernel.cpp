@@ -1,6 +1,7 @@
 #include "app/screens/kalvane_kernel.h"
 
 #include "backup/screens/frmTools.h"
+#include "catalogue/screens/frmDatabase.h"
 #include "design/screens/FrmDesign.h"
 #include "optimise/screens/frmCreate02.h"
 #include "output/screens/FrmGJB.h"
@@ -21,6 +22,11 @@ ProjectRoads KalvaneKernel::Roads() {
         frmCreate02(project.number, parent).exec();
     };
     return roads;
+}
+
+void KalvaneKernel::ShowDatabase() {
+    if (ActivateScreen(QStringLiteral("frmDatabase"))) return;
+    (new frmDatabase(nullptr))->ShowModeless();
 }
 
 void KalvaneKernel::ShowDesign() {

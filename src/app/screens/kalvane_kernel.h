@@ -12,6 +12,8 @@ class KalvaneKernel {
     /// Where the commands of an opened project lead.
     static ProjectRoads Roads();
 
+    /// The catalogue of materials, not modal.
+    void ShowDatabase();
     /// The window types, not modal.
     void ShowDesign();
     /// The projects, not modal.

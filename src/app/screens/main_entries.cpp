@@ -89,7 +89,7 @@ const std::vector<MainMenu>& MainMenus() {
          {},
          {
              {QStringLiteral("mnuDatabase"), QStringLiteral("材料库"), QStringLiteral("catalogue"),
-              Right::Catalogue, nullptr},
+              Right::Catalogue, [](MDIMain&) { KalvaneKernel().ShowDatabase(); }},
              {QStringLiteral("mnuDrawPicture"), QStringLiteral("绘制图"), QStringLiteral("drawing"),
               Right::Drawing, [](MDIMain&) { ShowDrawingDesk(); }},
              {QStringLiteral("mnuDesign"), QStringLiteral("窗型设计"), QStringLiteral("design"),
