@@ -213,6 +213,23 @@ void ShowModal(MDIMain& frame, const char* entry, const QString& name,
     frame.findChild<QAction*>(QLatin1String(entry))->trigger();
 }
 
+/// The catalogue with the profiles of a series, and one of them as it is typed in.
+void ShowCatalogue(MDIMain& frame) {
+    frame.findChild<QAction*>("mnuDatabase")->trigger();
+    QWidget* catalogue = Shown("frmDatabase");
+    auto* tree = Control<QTreeWidget>(catalogue, "Tvw");
+    tree->setCurrentItem(tree->topLevelItem(0)->child(0));
+    Control<ReportList>(catalogue, "Lvw")->SelectRow(1);
+    TakePicture(catalogue, "frmDatabase");
+    WhenShown("frmInputXCXG", [](QWidget* form) {
+        TakePicture(form, "frmInputXCXG");
+        Leave(form);
+    });
+    Press(catalogue, "CmdEdit2");
+    SavePdf(catalogue, "CmdPrint", "catalogue");
+    Leave(catalogue);
+}
+
 /// The drawing desk with a drawing of the library.
 void ShowDesk(MDIMain& frame) {
     frame.findChild<QAction*>("mnuDrawPicture")->trigger();
@@ -387,6 +404,7 @@ void Run() {
     App().optimise.CKK = 5;
     App().optimise.YHBL = 0.98F;
 
+    ShowCatalogue(frame);
     ShowDesk(frame);
     ShowDesigner(frame);
     QWidget* windows = OpenSample(frame);
