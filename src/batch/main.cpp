@@ -3,8 +3,8 @@
 
 #include "batch/check_command.h"
 #include "batch/commands.h"
-#include "batch/sheet_commands.h"
 #include "batch/formula_commands.h"
+#include "batch/sheet_commands.h"
 #include "batch/stock_commands.h"
 #include "batch/tally_commands.h"
 #include "batch/wind_commands.h"

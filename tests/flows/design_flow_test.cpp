@@ -3,6 +3,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 
+#include "design/formula_export.h"
 #include "design/screens/FrmDesign.h"
 #include "design/screens/FrmMCGS.h"
 #include "support/screens/screen_kit.h"
@@ -375,11 +376,22 @@ TEST_F(DesignFlow, FormulasGoOutToAWorkbookAndComeInAgain) {
     Press(screen, "CmdInputGS");
     EXPECT_EQ(dialogs_.TakeShown(), "提示|当前状态下不能导入公式！必须在系列状态");
     Choose(screen, "组合门窗");
+    const std::string before = Rows("Select * from 门窗");
     dialogs_.files = {QString(), InFolder("formulas.xlsx"), InFolder("formulas.xlsx")};
-    dialogs_.answers = {false, true};
-    for (int i = 0; i < 3; ++i) {
+    Press(screen, "CmdInputGS");
+    for (const char* button : {"CancelButton", "OKButton"}) {
+        EXPECT_EQ(Rows("Select * from 门窗"), before) << "cancelled";
         Choose(screen, "组合门窗");
-        Press(screen, "CmdInputGS");
+        ModalScript()
+            .On("frmImportPreview",
+                [&](QDialog& preview) {
+                    EXPECT_EQ(screen.windowTitle(), "Excel公式导入正在进行中......");
+                    EXPECT_TRUE(Find<QPlainTextEdit>(&preview, "Text1")
+                                    ->toPlainText()
+                                    .startsWith("窗型 30 个，公式"));
+                    Press(preview, button);
+                })
+            .Run([&] { Press(screen, "CmdInputGS"); });
     }
     EXPECT_EQ(screen.windowTitle(), "设计门窗");
     EXPECT_EQ(Rows("Select 系列编号,编号,名称,图号 from 门窗 where 编号=31"), "4|31|单格固定窗|1");
@@ -388,7 +400,28 @@ TEST_F(DesignFlow, FormulasGoOutToAWorkbookAndComeInAgain) {
               Rows("Select 名称,规格,数量,计算公式 from 窗型材 where 窗号=1"));
     const std::string types = Rows("Select 编号 from 门窗 where 系列编号=4");
     EXPECT_EQ(Node(screen, "组合门窗")->childCount(), std::count(types.begin(), types.end(), '\n') + 1);
-    EXPECT_EQ(dialogs_.shown.filter("要导入吗？").size(), 2);
+}
+
+TEST_F(DesignFlow, ARefusedRowOfAnImportIsReportedAndWhatCameBeforeItStays) {
+    FrmDesign screen(nullptr);
+    screen.show();
+    SaveFormulaGrid({{"门窗名称：甲", "1", "", ""}, {"板材名称", "", "", ""}, {"玻璃", "两", "B", "H"}},
+                    folder_ / "a.xlsx");
+    dialogs_.files = {InFolder("a.xlsx")};
+    Choose(screen, "组合门窗");
+    ModalScript()
+        .On("frmImportPreview",
+            [&](QDialog& preview) {
+                EXPECT_TRUE(
+                    Find<QPlainTextEdit>(&preview, "Text1")->toPlainText().contains("第 3 行不能导入"));
+                Press(preview, "OKButton");
+            })
+        .Run([&] { Press(screen, "CmdInputGS"); });
+    const QString shown = dialogs_.TakeShown();
+    EXPECT_TRUE(shown.startsWith("提示|确认您的系统上是否安装了Excel软件\n|第 3 行不能导入"))
+        << shown.toStdString();
+    EXPECT_EQ(Rows("Select 系列编号,名称,图号 from 门窗 where 编号=31"), "4|甲|1");
+    EXPECT_NE(Node(screen, "甲"), nullptr) << "the tree is loaded again";
 }
 
 TEST_F(DesignFlow, FormulasThatWereNotSavedAreOfferedAgain) {

@@ -4,11 +4,13 @@
 #include "app/screens/frmUserMng.h"
 #include "app/screens/kalvane_kernel.h"
 #include "backup/screens/frmSaveFile.h"
+#include "catalogue/screens/frmDatabase.h"
 #include "drawing/screens/FrmDraw.h"
 #include "optimise/screens/frmHandup.h"
 #include "project/screens/frmMCGCGL.h"
 #include "project/screens/frmOpenGC.h"
 #include "support/screens/screen_kit.h"
+#include "ui/node_tree.h"
 
 namespace kalvane::test {
 namespace {
@@ -93,6 +95,22 @@ TEST_F(StatementAttackTest, ProjectsAndWindows) {
             tree->setCurrentItem(type);
         });
     delete windows;
+}
+
+TEST_F(StatementAttackTest, Catalogue) {
+    frmDatabase catalogue(nullptr);
+    Attack(
+        "frmInputCJ", "OKButton", [&] { Press(catalogue, "CmdAdd1"); },
+        [](QDialog& screen) { Find<QComboBox>(&screen, "Combo1")->setCurrentIndex(1); });
+    auto* tree = Find<NodeTree>(&catalogue, "Tvw");
+    for (const char* category : {"2", "3", "4", "5"}) {
+        QTreeWidgetItem* node = tree->topLevelItem(0);
+        while (NodeTree::Kind(node) != category) node = tree->itemBelow(node);
+        tree->setCurrentItem(node);
+        Attack(ClassOfKind(category)->dialog, "OKButton", [&] { Press(catalogue, "CmdAdd2"); });
+    }
+    Attack("frmInputXL", "OKButton", [&] { Press(catalogue, "CmdAdd1"); });
+    Attack("frmPrice", "OKButton", [&] { Press(catalogue, "cmdPrice"); });
 }
 
 TEST_F(StatementAttackTest, Users) {

@@ -1,20 +1,25 @@
 #include "design/screens/formula_exchange.h"
 
-#include <QWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
 
 #include "design/formula_export.h"
 #include "design/formula_import.h"
 #include "design/window_type_tree.h"
 #include "numeric/error.h"
 #include "session/app_state.h"
+#include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/file_export.h"
+#include "ui/guard.h"
 #include "ui/node_tree.h"
+#include "ui/screen.h"
 #include "ui/text.h"
 
 namespace kalvane {
 namespace {
 
+constexpr QSize kPreviewSize(680, 460);
 const QString kPurpose = QStringLiteral("formulas");
 const QString kNoSpreadsheet = QStringLiteral("确认您的系统上是否安装了Excel软件");
 
@@ -31,6 +36,24 @@ void RunTitled(QWidget* screen, const QString& during, const QString& after,
         throw;
     }
     screen->setWindowTitle(after);
+}
+
+/// Shows what an import will do, a line for each type; true to go on. Enter leaves one that will be refused.
+bool GoOn(QWidget* parent, const ImportPreview& preview) {
+    Screen screen(QStringLiteral("frmImportPreview"), QStringLiteral("导入公式"), parent);
+    auto* body = new QPlainTextEdit(ToQt(PreviewText(preview)), &screen);
+    body->setObjectName(QStringLiteral("Text1"));
+    body->setReadOnly(true);
+    QPushButton* import = MakeButton("OKButton", QStringLiteral("导入 &Y"), &screen);
+    QPushButton* cancel = MakeButton("CancelButton", QStringLiteral("取消 &C"), &screen);
+    LayOutAboveButtons(&screen, body, {import, cancel});
+    screen.resize(kPreviewSize);
+    QPushButton* usual = preview.refusedRow == 0 ? import : cancel;
+    usual->setDefault(true);
+    usual->setFocus();
+    OnSignal(import, &QPushButton::clicked, &screen, [&screen] { screen.accept(); });
+    OnSignal(cancel, &QPushButton::clicked, &screen, [&screen] { screen.Leave(); });
+    return screen.exec() == QDialog::Accepted;
 }
 
 }  // namespace
@@ -56,12 +79,7 @@ bool ImportFormulasInto(const QTreeWidgetItem* node, QWidget* screen) {
     bool imported = false;
     RunTitled(screen, QStringLiteral("Excel公式导入正在进行中......"), QStringLiteral("设计门窗"), [&] {
         const SheetTexts sheet = ReadFormulaSheet(FromQt(file));
-        const ImportPreview preview = PreviewImport(App().Main(), sheet);
-        const QString question = ToQt(PreviewText(preview)) + QStringLiteral("\n要导入吗？");
-        if (!UseDialogs().AskYesNo(screen, question, PromptTitle(),
-                                   preview.refusedRow == 0 ? Dialogs::Answer::Yes : Dialogs::Answer::No)) {
-            return;
-        }
+        if (!GoOn(screen, PreviewImport(App().Main(), sheet))) return;
         imported = true;
         ImportedFormulas progress;
         ImportFormulas(App().Main(), sheet, NodeTree::Id(node), progress);
