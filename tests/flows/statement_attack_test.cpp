@@ -4,6 +4,7 @@
 #include "app/screens/frmUserMng.h"
 #include "app/screens/kalvane_kernel.h"
 #include "backup/screens/frmSaveFile.h"
+#include "catalogue/catalogue_class.h"
 #include "catalogue/screens/frmDatabase.h"
 #include "drawing/screens/FrmDraw.h"
 #include "optimise/screens/frmHandup.h"

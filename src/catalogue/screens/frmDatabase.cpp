@@ -5,15 +5,13 @@
 
 #include "catalogue/material_uses.h"
 #include "catalogue/screens/catalogue_forms.h"
-#include "catalogue/screens/frmXLOption.h"
+#include "catalogue/screens/catalogue_tree.h"
 #include "catalogue/screens/material_exchange.h"
 #include "catalogue/screens/material_list.h"
 #include "session/app_state.h"
-#include "store/helpers.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
-#include "ui/node_tree.h"
 #include "ui/report_list.h"
 #include "ui/text.h"
 #include "ui/text_screen.h"
@@ -22,22 +20,17 @@ namespace kalvane {
 namespace {
 
 constexpr QSize kFirstSize(1060, 640);
-constexpr const char* kLeafKinds = "2345";  // the nodes that list materials
-
-QString QuotedBy(int types) {
-    return types == 0 ? QString() : QStringLiteral("\n有 %1 个窗型的公式引用它。").arg(types);
-}
 
 }  // namespace
 
 frmDatabase::frmDatabase(QWidget* parent)
     : Screen(QStringLiteral("frmDatabase"), QStringLiteral("数据库管理"), parent),
-      tvw_(new NodeTree(QStringLiteral("Tvw"), kLeafKinds, this)),
+      tvw_(new CatalogueTree(this)),
       materials_(new MaterialList(this)) {
     LayOut();
     OnSignal(tvw_, &NodeTree::itemSelectionChanged, this, [this] { ShowNode(); });
     OnSignal(materials_->List(), &ReportList::itemDoubleClicked, this, [this] { EditMaterial(); });
-    Guarded(this, [this] { tvw_->Show(LoadCatalogueTree(App().Main())); });
+    Guarded(this, [this] { tvw_->Load(); });
 }
 
 QPushButton* frmDatabase::Command(const char* name, const char* caption, const char* toolTip,
@@ -48,9 +41,11 @@ QPushButton* frmDatabase::Command(const char* name, const char* caption, const c
 }
 
 void frmDatabase::LayOut() {
-    auto* addNode = Command("CmdAdd1", "添加 &T", "添加厂家或系列", [this] { AddNode(); });
-    auto* editNode = Command("CmdEdit1", "编辑 &B", "编辑厂家或系列", [this] { EditNode(); });
-    auto* deleteNode = Command("CmdDel1", "删除 &S", "删除厂家或系列及其全部材料", [this] { DeleteNode(); });
+    auto* addNode = Command("CmdAdd1", "添加 &T", "添加厂家或系列", [this] { tvw_->AddNode(); });
+    auto* editNode = Command("CmdEdit1", "编辑 &B", "编辑厂家或系列", [this] { tvw_->EditNode(); });
+    auto* deleteNode = Command("CmdDel1", "删除 &S", "删除厂家或系列及其全部材料", [this] {
+        if (tvw_->DeleteNode()) materials_->Clear();
+    });
     auto* add = Command("CmdAdd2", "添加 &A", "添加材料 (Insert)", [this] { AddMaterialRow(); });
     auto* edit = Command("CmdEdit2", "编辑 &E", "编辑材料 (F2 或双击)", [this] { EditMaterial(); });
     auto* del = Command("CmdDel2", "删除 &D", "删除材料 (Delete)", [this] { DeleteMaterialRow(); });
@@ -97,63 +92,6 @@ void frmDatabase::ShowNode() {
     const CatalogueClass* materialClass = ClassOfKind(NodeTree::Kind(node));
     if (materialClass == nullptr) return materials_->Clear();
     materials_->ShowNode(*materialClass, NodeTree::Id(node));
-}
-
-void frmDatabase::AddNode() {
-    QTreeWidgetItem* node = tvw_->Selected();
-    const std::string kind = node == nullptr ? std::string() : NodeTree::Kind(node);
-    if (kind == kSeriesKind) return AddSeriesNode(node->parent());
-    if (kind != kProfileMakerKind) return AddMakerNode();
-    frmXLOption option(this);
-    if (option.exec() != Accepted) return;
-    if (option.IsSeries()) return AddSeriesNode(node);
-    AddMakerNode();
-}
-
-void frmDatabase::AddMakerNode() {
-    InputMaker(this, QStringLiteral("添加->厂家"), {"", "-", "-", "-", ""}, [this](const Maker& maker) {
-        const std::string number = AddMaker(App().Main(), maker);
-        tvw_->scrollToItem(tvw_->Add({maker.name, MakeKey(maker.category, number)}));
-    });
-}
-
-void frmDatabase::AddSeriesNode(QTreeWidgetItem* maker) {
-    InputSeries(this, QStringLiteral("添加->系列"), {}, [&](const std::string& name) {
-        const std::string number = AddSeries(App().Main(), NodeTree::Id(maker), name);
-        tvw_->Add({name, MakeKey(kSeriesKind, number)}, maker);
-        maker->setExpanded(true);
-    });
-}
-
-void frmDatabase::EditNode() {
-    QTreeWidgetItem* node = tvw_->SelectedOrTell(QStringLiteral("无选取所需编辑的对象！"));
-    if (node == nullptr) return;
-    const std::string number = NodeTree::Id(node);
-    const auto rename = [node](const std::string& name) { node->setText(0, ToQt(name)); };
-    if (NodeTree::Kind(node) == kSeriesKind) {
-        InputSeries(this, QStringLiteral("编辑->系列"), node->text(0), [&](const std::string& name) {
-            RenameSeries(App().Main(), number, name);
-            rename(name);
-        });
-        return;
-    }
-    InputMaker(this, QStringLiteral("编辑->厂家"), LoadMaker(App().Main(), number), [&](const Maker& maker) {
-        UpdateMaker(App().Main(), number, maker);
-        rename(maker.name);
-    });
-}
-
-void frmDatabase::DeleteNode() {
-    QTreeWidgetItem* node = tvw_->SelectedOrTell(QStringLiteral("无选取所要删除的对象！"));
-    if (node == nullptr) return;
-    const std::string tag = NodeTree::Tag(node);
-    const QString question = QStringLiteral("确认要删除该记录吗？(%1)").arg(node->text(0));
-    if (!AskToLose(this, question + QuotedBy(TypesThatQuote(App().Main(), tag)))) return;
-    DeleteCatalogueNode(App().Main(), tag);
-    tvw_->setCurrentItem(nullptr);
-    delete node;
-    tvw_->setCurrentItem(nullptr);
-    materials_->Clear();
 }
 
 void frmDatabase::AddMaterialRow() {

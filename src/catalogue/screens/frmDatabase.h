@@ -5,12 +5,11 @@
 #include "ui/screen.h"
 
 class QPushButton;
-class QTreeWidgetItem;
 
 namespace kalvane {
 
+class CatalogueTree;
 class MaterialList;
-class NodeTree;
 
 /// The catalogue: makers and series of materials, and the materials of the selected one.
 class frmDatabase : public Screen {
@@ -25,12 +24,6 @@ class frmDatabase : public Screen {
                          std::function<void()> work);
 
     void ShowNode();
-    void AddNode();
-    void AddMakerNode();
-    void AddSeriesNode(QTreeWidgetItem* maker);
-    void EditNode();
-    void DeleteNode();
-
     void AddMaterialRow();
     void EditMaterial();
     void DeleteMaterialRow();
@@ -44,7 +37,7 @@ class frmDatabase : public Screen {
     /// What deleting or renaming `code` means for formulas; empty when none quotes it.
     QString UsesNote(const std::string& code) const;
 
-    NodeTree* tvw_;
+    CatalogueTree* tvw_;
     MaterialList* materials_;
 };
 
