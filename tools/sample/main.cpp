@@ -7,6 +7,7 @@
 #include "app/screens/MDIMain.h"
 #include "app/screens/frmLogin.h"
 #include "app/store_setup.h"
+#include "design/formula_export.h"
 #include "design/window_type_tree.h"
 #include "drawing/mcpicture.h"
 #include "drawing/screens/window_picture.h"
@@ -87,6 +88,8 @@ void WhenShown(const QString& name, const std::function<void(QWidget*)>& action)
 
 /// Where the preview saves its PDF.
 QString pdfFile;
+/// What the next command opens.
+QString openedFile;
 
 /// Nothing else on this road asks or warns; a box that comes up all the same must not wait for an answer.
 class NoDialogs : public Dialogs {
@@ -100,8 +103,8 @@ class NoDialogs : public Dialogs {
         return std::nullopt;
     }
     QString OpenFileName(QWidget*, const QString& purpose, const QString&) override {
-        Stop(purpose);
-        return {};
+        if (openedFile.isEmpty()) Stop(purpose);
+        return std::exchange(openedFile, {});
     }
     QString SaveFileName(QWidget*, const SaveRequest& request) override {
         if (pdfFile.isEmpty()) Stop(request.purpose);
@@ -255,6 +258,19 @@ void ChooseNode(QWidget* screen, const QString& name) {
     tree->scrollToItem(nodes.front());
 }
 
+/// What an import of the types that were exported would do.
+void ShowImport(QWidget* types) {
+    const std::filesystem::path file = out / "formulas.xlsx";
+    SaveFormulaGrid(FormulaGrid(App().Main()), file);
+    ChooseNode(types, QString::fromUtf8("PK60平开窗"));
+    openedFile = ToQt(file.string());
+    WhenShown("frmImportPreview", [](QWidget* preview) {
+        TakePicture(preview, "frmImportPreview");
+        Leave(preview);
+    });
+    Press(types, "CmdInputGS");
+}
+
 /// The window types and the designer of one of them, with two rows that are not right.
 void ShowDesigner(MDIMain& frame) {
     frame.findChild<QAction*>("mnuDesign")->trigger();
@@ -281,6 +297,7 @@ void ShowDesigner(MDIMain& frame) {
         Leave(designer);
     });
     Press(types, "CmdDesignMC");
+    ShowImport(types);
     Leave(types);
 }
 
