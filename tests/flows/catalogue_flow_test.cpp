@@ -160,7 +160,8 @@ TEST_F(CatalogueFlow, MaterialsAreAddedChangedAndDeleted) {
     ModalScript()
         .On("frmUses",
             [&](QDialog& text) {
-                EXPECT_TRUE(Find<QTextEdit>(&text, "Text1")->toPlainText().contains("窗型的公式引用“GK60”"));
+                EXPECT_TRUE(
+                    Find<QPlainTextEdit>(&text, "Text1")->toPlainText().contains("窗型的公式引用“GK60”"));
             })
         .Run([&] { Press(*screen_, "CmdUses"); });
     dialogs_.answers = {true};
