@@ -21,6 +21,7 @@ namespace {
 constexpr int kTagRole = Qt::UserRole;
 constexpr int kPlaceRole = Qt::UserRole + 1;
 constexpr int kColumnPadding = 16;
+constexpr int kFittedRows = 1000;  // so many the engine measures; rows added behind them change nothing
 
 /// What a cell sorts by: numbers before texts.
 struct SortKey {
@@ -105,8 +106,9 @@ void ReportList::AddRows(const QList<QStringList>& rows) {
     QList<QTreeWidgetItem*> items;
     items.reserve(rows.size());
     for (const QStringList& row : rows) items << MakeItem(row, {});
+    const int before = RowCount();
     addTopLevelItems(items);
-    FitColumnsSoon();
+    if (before < kFittedRows) FitColumnsSoon();
 }
 
 QStringList ReportList::Row(int row) const {

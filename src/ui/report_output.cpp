@@ -6,8 +6,10 @@
 
 namespace kalvane {
 
-bool PrintReport(QWidget* parent, const Report& report) {
-    const PageSetup sheet{QPageSize::A4, QPageLayout::Portrait, {15, 15, 15, 12}};
+bool PrintReport(QWidget* parent, const Report& report, ReportPaper paper) {
+    const PageSetup sheet = paper == ReportPaper::A4
+                                ? PageSetup{QPageSize::A4, QPageLayout::Portrait, {15, 15, 15, 12}}
+                                : PageSetup{QPageSize::A5, QPageLayout::Landscape, {12, 10, 12, 8}};
     return PrintDocument(parent, ToQt(report.title), sheet,
                          [&](PageTarget& page) { PaintReport(page, report); });
 }

@@ -1,6 +1,5 @@
 #include "warehouse/minimum_stock.h"
 
-#include <algorithm>
 #include <map>
 
 #include "numeric/error.h"
@@ -31,14 +30,28 @@ std::map<std::string, std::string> AllMinimums(Connection& own) {
 
 }  // namespace
 
-std::vector<std::string> MinimumsOf(Connection& own, const std::vector<std::string>& codes) {
-    const std::map<std::string, std::string> all = AllMinimums(own);
-    std::vector<std::string> minimums;
-    for (const std::string& code : codes) {
-        const auto found = all.find(code);
-        minimums.push_back(found == all.end() ? std::string() : found->second);
+std::vector<StockLevel> StockLevels(Connection& stock, Connection& own) {
+    std::map<std::string, std::string> minimums = AllMinimums(own);
+    std::vector<StockLevel> levels;
+    for (Cursor row = stock.OpenCursor("Select * from 库存表"); !row.Eof(); row.MoveNext()) {
+        const auto text = [&row](const char* column) { return row.Field(column).TextOrEmpty(); };
+        StockLevel level{text("规格"), text("名称"), text("单位"), text("种类"), text("库存量"), {}, {}};
+        const auto minimum = minimums.extract(level.code);
+        if (!minimum.empty()) level.minimum = minimum.mapped();
+        levels.push_back(std::move(level));
     }
-    return minimums;
+    for (const auto& [code, minimum] : minimums) levels.push_back({code, {}, {}, {}, "0", minimum, {}});
+    for (StockLevel& level : levels) {
+        const double lacking = Val(level.minimum) - Val(level.onHand);
+        if (!level.minimum.empty() && lacking > 0) level.lacking = ShortText(lacking);
+    }
+    return levels;
+}
+
+std::vector<StockLevel> BelowMinimum(Connection& stock, Connection& own) {
+    std::vector<StockLevel> levels = StockLevels(stock, own);
+    std::erase_if(levels, [](const StockLevel& level) { return level.lacking.empty(); });
+    return levels;
 }
 
 void SetMinimum(Connection& own, const std::string& code, const std::string& minimum) {
@@ -50,25 +63,6 @@ void SetMinimum(Connection& own, const std::string& code, const std::string& min
         own.Execute("Insert into 最低库存 (规格,最低量) Values('" + code + "'," + std::to_string(count) +
                     ")");
     });
-}
-
-std::vector<LowStock> BelowMinimum(Connection& stock, Connection& own) {
-    std::map<std::string, LowStock> rows;
-    for (Cursor row = stock.OpenCursor("Select * from 库存表"); !row.Eof(); row.MoveNext()) {
-        const auto text = [&row](const char* column) { return row.Field(column).TextOrEmpty(); };
-        rows[text("规格")] = {text("规格"), text("名称"), text("单位"), text("种类"), text("库存量"), "", ""};
-    }
-    std::vector<LowStock> low;
-    for (const auto& [code, minimum] : AllMinimums(own)) {
-        const auto found = rows.find(code);
-        LowStock row = found == rows.end() ? LowStock{code, "", "", "", "0", "", ""} : found->second;
-        const double lacking = Val(minimum) - Val(row.onHand);
-        if (lacking <= 0) continue;
-        row.minimum = minimum;
-        row.lacking = ShortText(lacking);
-        low.push_back(std::move(row));
-    }
-    return low;
 }
 
 }  // namespace kalvane

@@ -2,6 +2,7 @@
 
 #include "store/schema.h"
 #include "warehouse/goods_notes.h"
+#include "warehouse/minimum_stock.h"
 #include "warehouse/stock_query.h"
 
 namespace kalvane {
@@ -48,6 +49,21 @@ Report StockReport(Connection& stock) {
         report.columns.push_back(ColumnFor("库存表", column.name));
     }
     report.rows = TextRows(stock.OpenCursor(QueryStatement("库存表")));
+    return report;
+}
+
+Report LowStockReport(Connection& stock, Connection& own) {
+    Report report;
+    report.title = "低于最低库存的材料";
+    for (const char* name : {"名称", "规格", "单位", "种类", "库存量"}) {
+        report.columns.push_back(ColumnFor("库存表", name));
+    }
+    report.columns.push_back({"最低库存", 10.0F, ReportAlign::Right});
+    report.columns.push_back({"缺", 10.0F, ReportAlign::Right});
+    for (const StockLevel& level : BelowMinimum(stock, own)) {
+        report.rows.push_back(
+            {level.name, level.code, level.unit, level.kind, level.onHand, level.minimum, level.lacking});
+    }
     return report;
 }
 

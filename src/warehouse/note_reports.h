@@ -14,4 +14,7 @@ Report NoteReport(Connection& stock, NoteKind kind, std::string_view number);
 /// The stock list. Throws StoreError.
 Report StockReport(Connection& stock);
 
+/// The materials below their minimum. Throws StoreError.
+Report LowStockReport(Connection& stock, Connection& own);
+
 }  // namespace kalvane

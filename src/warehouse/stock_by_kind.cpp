@@ -63,7 +63,7 @@ Report StockByKindReport(Connection& stock, Connection* own) {
                       {"低于最低库存", 14, ReportAlign::Right}};
     std::map<std::string, std::string> minimums;
     if (own != nullptr) {
-        for (const LowStock& low : BelowMinimum(stock, *own)) minimums[low.code] = low.minimum;
+        for (const StockLevel& low : BelowMinimum(stock, *own)) minimums[low.code] = low.minimum;
     }
     const std::vector<Material> materials = SortedMaterials(stock);
     std::map<std::string, Total> totals;

@@ -33,7 +33,7 @@ class StockListTest : public StockStoreTest {
 
     std::string Low() {
         std::string text;
-        for (const LowStock& low : BelowMinimum(*store_, *own_)) {
+        for (const StockLevel& low : BelowMinimum(*store_, *own_)) {
             text +=
                 low.name + "," + low.code + "," + low.onHand + "<" + low.minimum + " by " + low.lacking + ";";
         }
@@ -77,7 +77,11 @@ TEST_F(StockListTest, MinimumsAreKeptBesideTheWarehouse) {
     SetMinimum(*own_, "B", "7");
     SetMinimum(*own_, "Z", "0");
     EXPECT_EQ(Low(), "料B,B,4<7 by 3;");
-    EXPECT_EQ(MinimumsOf(*own_, {"C", "B", "Z"}), (std::vector<std::string>{"", "7", ""}));
+    std::string levels;
+    for (const StockLevel& level : StockLevels(*store_, *own_)) {
+        levels += level.code + "," + level.minimum + "," + level.lacking + ";";
+    }
+    EXPECT_EQ(levels, "A,10,;B,7,3;C,,;");
     for (const char* text : {"-1", "1.5", "三", "2147483648", "1e3"}) {
         EXPECT_NE(Refusal([&] { SetMinimum(*own_, "B", text); }), "") << text;
     }

@@ -3,6 +3,7 @@
 #include "backup/screens/frmTools.h"
 #include "catalogue/screens/frmDatabase.h"
 #include "design/screens/FrmDesign.h"
+#include "optimise/project_material.h"
 #include "optimise/screens/frmCreate02.h"
 #include "output/screens/FrmGJB.h"
 #include "project/screens/frmMCGCGL.h"
@@ -22,6 +23,21 @@ ProjectRoads KalvaneKernel::Roads() {
         frmCreate02(project.number, parent).exec();
     };
     return roads;
+}
+
+ProjectNeeds KalvaneKernel::Needs() {
+    ProjectNeeds needs;
+    needs.list = [] {
+        std::vector<std::pair<std::string, std::string>> projects;
+        for (const Project& project : ListProjects(App().Main())) {
+            projects.emplace_back(project.number, project.name);
+        }
+        return projects;
+    };
+    needs.of = [](const std::string& number, Notice& notice) {
+        return MaterialOfProject(App().Main(), number, App().optimise.CLC, notice);
+    };
+    return needs;
 }
 
 void KalvaneKernel::ShowDatabase() {

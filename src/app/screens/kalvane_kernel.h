@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/screens/project_roads.h"
+#include "warehouse/project_needs.h"
 
 class QWidget;
 
@@ -11,6 +12,8 @@ class KalvaneKernel {
   public:
     /// Where the commands of an opened project lead.
     static ProjectRoads Roads();
+    /// What a goods-out note asks of the projects.
+    static ProjectNeeds Needs();
 
     /// The catalogue of materials, not modal.
     void ShowDatabase();

@@ -49,7 +49,7 @@ void ShowGoodsIn(MDIMain& frame) {
 
 void ShowGoodsOut(MDIMain& frame) {
     App().postNoteNumber = NextPostNo(App().Stock());
-    FrmPost(App().postNoteNumber, &frame).exec();
+    FrmPost(App().postNoteNumber, &frame, KalvaneKernel::Needs()).exec();
 }
 
 void ClearWarehouse(MDIMain& frame) {

@@ -15,10 +15,11 @@
 #include "ui/report_output.h"
 #include "ui/text.h"
 #include "ui/text_box.h"
-#include "warehouse/goods_notes.h"
 #include "warehouse/note_reports.h"
-#include "warehouse/screens/FrmEnter.h"
-#include "warehouse/screens/FrmPost.h"
+#include "warehouse/screens/frmMinStock.h"
+#include "warehouse/screens/frmStockFlow.h"
+#include "warehouse/screens/note_preview.h"
+#include "warehouse/stock_by_kind.h"
 
 namespace kalvane {
 namespace {
@@ -26,6 +27,7 @@ namespace {
 constexpr QSize kFirstSize(980, 600);
 constexpr int kGoodsInTab = 0;
 constexpr int kStockTab = 2;
+constexpr int kCodeColumn = 1;  // of the stock list
 
 }  // namespace
 
@@ -38,17 +40,24 @@ FrmQuery::FrmQuery(QWidget* parent)
       query_(MakeButton("CmdQuery", QStringLiteral("&Q 条件查寻"), this)),
       all_(MakeButton("CmdAll", QStringLiteral("&A 全部"), this)),
       print_(MakeButton("CmdKCPrint", QStringLiteral("&P 打印库存表"), this)),
+      kindPrint_(MakeButton("CmdFLPrint", QStringLiteral("&K 打印分类库存"), this,
+                            QStringLiteral("按种类列出，每类有小计"))),
+      flow_(MakeButton("CmdLS", QStringLiteral("&F 流水"), this,
+                       QStringLiteral("库存表中所选材料的出入库和结存"))),
+      minimum_(MakeButton("CmdZDKC", QStringLiteral("&M 最低库存"), this)),
       workbook_(MakeButton("CmdWorkbook", QStringLiteral("&W 导出到 Excel"), this,
                            QStringLiteral("导出列表中的记录"))),
       text_(MakeButton("CmdText", QStringLiteral("&T 导出到文本"), this, QStringLiteral("导出列表中的记录"))),
       exit_(MakeButton("CmdExit", QStringLiteral("&E 返 回"), this)),
-      lvw_(new ReportList(QStringLiteral("LVW"), {}, this)) {
+      lvw_(new ReportList(QStringLiteral("LVW"), {}, this)),
+      rows_(*lvw_) {
     tabs_->setObjectName(QStringLiteral("TabStrip1"));
     fields_->setObjectName(QStringLiteral("CmbZD"));
     types_->setObjectName(QStringLiteral("CmbTemp"));
     types_->hide();
     lvw_->setToolTip(QStringLiteral("双击这里可查看具体信息"));
     lvw_->SelectSeveral();
+    lvw_->OfferInMenu({flow_});
     for (const std::string_view table : QueryTables()) tabs_->addTab(ToQt(table));
     LayOut();
     ShowTab();
@@ -66,7 +75,8 @@ void FrmQuery::LayOut() {
     filter->addRow(new QLabel(QStringLiteral("按回车键以确认条件查寻的有效性."), this));
     left->addLayout(filter);
     left->addWidget(lvw_, 1);
-    LayOutBesideButtons(this, body, {{query_, all_}, {print_}, {workbook_, text_}}, exit_);
+    LayOutBesideButtons(this, body,
+                        {{query_, all_}, {flow_, minimum_}, {print_, kindPrint_}, {workbook_, text_}}, exit_);
     resize(kFirstSize);
 }
 
@@ -77,6 +87,10 @@ void FrmQuery::Connect() {
     OnSignal(all_, &QPushButton::clicked, this, [this] { Fill(QueryStatement(Table())); });
     OnSignal(lvw_, &ReportList::DoubleClicked, this, [this] { Preview(); });
     OnSignal(print_, &QPushButton::clicked, this, [this] { PrintReport(this, StockReport(App().Stock())); });
+    OnSignal(kindPrint_, &QPushButton::clicked, this,
+             [this] { PrintReport(this, StockByKindReport(App().Stock(), App().ownConnection.get())); });
+    OnSignal(flow_, &QPushButton::clicked, this, [this] { ShowFlow(); });
+    OnSignal(minimum_, &QPushButton::clicked, this, [this] { frmMinStock(this).exec(); });
     OnSignal(workbook_, &QPushButton::clicked, this, [this] { Export(true); });
     OnSignal(text_, &QPushButton::clicked, this, [this] { Export(false); });
     OnSignal(exit_, &QPushButton::clicked, this, [this] { Leave(); });
@@ -97,7 +111,8 @@ void FrmQuery::ShowTab() {
         types_->addItem(QString::number(static_cast<int>(FieldTypeOf(column))));
     }
     fields_->setCurrentIndex(-1);
-    lvw_->SetColumns({});
+    flow_->setEnabled(tabs_->currentIndex() == kStockTab);
+    rows_.Clear();
 }
 
 void FrmQuery::ChooseField() {
@@ -119,45 +134,24 @@ void FrmQuery::RunFilter() {
 
 void FrmQuery::Fill(const std::string& statement) {
     // Read before the list is touched: a refused statement leaves it as it is.
-    QList<QStringList> rows;
-    for (const std::vector<std::string>& row : TextRows(App().Stock().OpenCursor(statement))) {
-        QStringList texts;
-        for (const std::string& text : row) texts << ToQt(text);
-        rows << texts;
-    }
-    QStringList columns;
-    for (const Column& column : FindTable(Table())->columns) columns << ToQt(column.name);
-    lvw_->SetColumns(columns);
-    lvw_->AddRows(rows);
-    if (tabs_->currentIndex() == kStockTab) MarkNegativeStock();
-}
-
-void FrmQuery::MarkNegativeStock() {
-    const int column = lvw_->columnCount() - 1;
-    for (int row = 0; row < lvw_->RowCount(); ++row) {
-        if (!lvw_->Text(row, column).startsWith(QLatin1Char('-'))) continue;
-        QTreeWidgetItem* item = lvw_->topLevelItem(row);
-        for (int i = 0; i <= column; ++i) item->setForeground(i, Qt::red);
-        item->setToolTip(column, QStringLiteral("库存量小于零：出库多于入库"));
-    }
+    Cursor rows = App().Stock().OpenCursor(statement);
+    rows_.Show(*FindTable(Table()), std::move(rows));
 }
 
 void FrmQuery::Preview() {
     const int row = lvw_->SelectedOrTell(QStringLiteral("无选取对象,不能预览更多的信息!"));
     if (row < 0 || tabs_->currentIndex() == kStockTab) return;
-    const std::string number = FromQt(lvw_->Text(row, 0));
-    if (tabs_->currentIndex() == kGoodsInTab) {
-        FrmEnter note(number, this);
-        note.Preview(LoadNote(App().Stock(), NoteKind::In, number));
-        note.exec();
-    } else {
-        FrmPost note(number, this);
-        note.Preview(LoadNote(App().Stock(), NoteKind::Out, number));
-        note.exec();
-    }
+    PreviewNote(tabs_->currentIndex() == kGoodsInTab ? NoteKind::In : NoteKind::Out,
+                FromQt(lvw_->Text(row, 0)), this);
+}
+
+void FrmQuery::ShowFlow() {
+    const int row = lvw_->SelectedOrTell(QStringLiteral("请先选择库存表中的材料。"));
+    if (row >= 0) frmStockFlow(FromQt(lvw_->Text(row, kCodeColumn)), this).exec();
 }
 
 void FrmQuery::Export(bool asWorkbook) {
+    rows_.Finish();
     std::vector<std::vector<std::string>> rows;
     for (const int row : lvw_->AllRows()) {
         std::vector<std::string>& texts = rows.emplace_back();

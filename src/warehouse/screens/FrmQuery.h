@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/entry_screen.h"
+#include "warehouse/screens/query_rows.h"
 #include "warehouse/stock_query.h"
 
 class QComboBox;
@@ -10,7 +11,8 @@ namespace kalvane {
 
 class ReportList;
 
-/// Browses the notes and the stock list, all rows or those with one field equal to one value.
+/// Browses the notes and the stock list, all rows or those with one field equal to one value, and leads on to
+/// a note, to the movements of a material and to the minimum stocks.
 class FrmQuery : public EntryScreen {
     Q_OBJECT
 
@@ -25,8 +27,8 @@ class FrmQuery : public EntryScreen {
     void ChooseField();
     void RunFilter();
     void Fill(const std::string& statement);
-    void MarkNegativeStock();
     void Preview();
+    void ShowFlow();
     void Export(bool asWorkbook);
 
     QTabBar* tabs_;
@@ -36,10 +38,14 @@ class FrmQuery : public EntryScreen {
     QPushButton* query_;
     QPushButton* all_;
     QPushButton* print_;
+    QPushButton* kindPrint_;
+    QPushButton* flow_;
+    QPushButton* minimum_;
     QPushButton* workbook_;
     QPushButton* text_;
     QPushButton* exit_;
     ReportList* lvw_;
+    QueryRows rows_;
 };
 
 }  // namespace kalvane

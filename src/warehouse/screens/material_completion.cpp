@@ -1,7 +1,9 @@
 #include "warehouse/screens/material_completion.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <algorithm>
 #include <memory>
@@ -33,6 +35,27 @@ void Fill(QWidget* form, const NoteLine& material) {
     if (kinds->currentIndex() < 0) kinds->setCurrentIndex(kinds->findText(ToQt(material.kind)));
 }
 
+/// While the list of proposals is open, Tab takes the only one of them, as it takes one that was chosen.
+class TabTakesProposal : public QObject {
+  public:
+    TabTakesProposal(QCompleter* completer, QLineEdit* box) : QObject(box), completer_(completer), box_(box) {
+        completer_->popup()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const QAbstractItemModel& proposals = *completer_->completionModel();
+        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Tab && proposals.rowCount() == 1) {
+            box_->setText(proposals.index(0, 0).data().toString());
+        }
+        return false;  // the key still leads to the next box
+    }
+
+  private:
+    QCompleter* completer_;
+    QLineEdit* box_;
+};
+
 /// Completes one box, and fills the others once its text names a material.
 void Complete(QWidget* form, QLineEdit* box, std::string NoteLine::*member, const Materials& materials) {
     QStringList texts;
@@ -42,6 +65,7 @@ void Complete(QWidget* form, QLineEdit* box, std::string NoteLine::*member, cons
     completer->setFilterMode(Qt::MatchContains);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
     box->setCompleter(completer);
+    new TabTakesProposal(completer, box);  // owned by the box
     OnSignal(box, &QLineEdit::editingFinished, form, [=] {
         const std::string text = FromQt(box->text());
         const auto isNamed = [&](const NoteLine& material) { return material.*member == text; };

@@ -1,20 +1,21 @@
 #include "warehouse/screens/note_screen.h"
 
 #include <QBoxLayout>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 
+#include "numeric/error.h"
 #include "session/app_state.h"
-#include "store/helpers.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
 #include "ui/report_list.h"
-#include "ui/report_output.h"
 #include "ui/text.h"
 #include "warehouse/goods_notes.h"
-#include "warehouse/note_reports.h"
 #include "warehouse/screens/note_head.h"
-#include "warehouse/stock_shortage.h"
+#include "warehouse/screens/note_paper.h"
+#include "warehouse/screens/note_questions.h"
 
 namespace kalvane {
 namespace {
@@ -39,10 +40,15 @@ NoteScreen::NoteScreen(NoteKind kind, const std::string& number, QWidget* parent
       del_(MakeButton("CmdDel", QStringLiteral("&D 删除"), this, QStringLiteral("Delete"))),
       print_(MakeButton("CmdPrint", QStringLiteral("&P 打印"), this,
                         QStringLiteral("打印已保存的单据：在“查寻”中双击它打开预览"))),
+      paper_(MakePaperBox(this)),
+      recover_(MakeButton("CmdRecover", QStringLiteral("恢复上次未保存的单据"), this)),
       ok_(MakeButton("OKButton", QStringLiteral("&Y 确定"), this)),
-      cancel_(MakeButton("CancelButton", QStringLiteral("&C 取消"), this)) {
+      cancel_(MakeButton("CancelButton", QStringLiteral("&C 取消"), this)),
+      recovery_(kind, App().folder) {
     head_->SetText(&GoodsNote::number, number);
+    recover_->setVisible(recovery_.Offers());
     OnSignal(del_, &QPushButton::clicked, this, [this] { Delete(); });
+    OnSignal(recover_, &QPushButton::clicked, this, [this] { Recover(); });
     OnSignal(print_, &QPushButton::clicked, this, [this] { Print(); });
     OnSignal(ok_, &QPushButton::clicked, this, [this] { Confirm(); });
     OnSignal(cancel_, &QPushButton::clicked, this, [this] { Leave(); });
@@ -54,11 +60,13 @@ void NoteScreen::LayOut(std::vector<QPushButton*> ownCommands) {
     left->setSpacing(10);
     left->addWidget(head_);
     left->addWidget(lvw_, 1);
+    left->addWidget(recover_, 0, Qt::AlignLeft);
     std::vector<QPushButton*> commands = {add_};
     commands.insert(commands.end(), ownCommands_.begin(), ownCommands_.end());
     commands.insert(commands.end(), {del_, print_});
     auto* right = new QVBoxLayout;
     for (QPushButton* command : commands) right->addWidget(command);
+    right->addWidget(paper_);
     right->addStretch();
     for (QPushButton* command : {ok_, cancel_}) right->addWidget(command);
     auto* all = new QHBoxLayout(this);
@@ -68,6 +76,11 @@ void NoteScreen::LayOut(std::vector<QPushButton*> ownCommands) {
 
     const std::vector<QWidget*>& boxes = head_->Boxes();
     for (std::size_t i = 0; i + 1 < boxes.size(); ++i) EnterMovesTo(boxes[i], boxes[i + 1]);
+    for (QWidget* box : boxes) {
+        if (auto* line = qobject_cast<QLineEdit*>(box)) {
+            OnSignal(line, &QLineEdit::editingFinished, this, [this] { KeepTyped(); });
+        }
+    }
     EnterMovesTo(boxes.back(), add_);
     OnEnter(add_, [this] { add_->click(); });
     boxes[1]->setFocus();  // the number stands already
@@ -75,7 +88,7 @@ void NoteScreen::LayOut(std::vector<QPushButton*> ownCommands) {
     std::vector<QWidget*> order = boxes;
     order.push_back(lvw_);
     order.insert(order.end(), commands.begin(), commands.end());
-    order.insert(order.end(), {ok_, cancel_});
+    order.insert(order.end(), {paper_, recover_, ok_, cancel_});
     for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
     PressOnKeys(lvw_, Qt::Key_Insert, add_);
     PressOnKeys(lvw_, Qt::Key_Delete, del_);
@@ -97,11 +110,46 @@ QStringList NoteScreen::TextsOf(const NoteLine& line) const {
 }
 
 void NoteScreen::AddLine(const NoteLine& line) {
-    lvw_->SelectRow(lvw_->AddRow(TextsOf(line)));
+    AddLines({line});
+}
+
+void NoteScreen::AddLines(const std::vector<NoteLine>& lines) {
+    for (const NoteLine& line : lines) lvw_->AddRow(TextsOf(line));
+    if (!lines.empty()) lvw_->SelectRow(lvw_->RowCount() - 1);
+    KeepTyped();
 }
 
 void NoteScreen::SetLine(int row, const NoteLine& line) {
     lvw_->SetRow(row, TextsOf(line));
+    KeepTyped();
+}
+
+void NoteScreen::KeepTyped() {
+    if (isPreview_) return;
+    if (!HasTypedWork()) return recovery_.Discard();
+    try {
+        recovery_.Keep(Entered());
+        recoveryFailed_ = false;
+    } catch (const FileError& failure) {
+        if (std::exchange(recoveryFailed_, true)) return;
+        Tell(this, QStringLiteral("未保存的单据不能写入恢复文件：%1").arg(ToQt(failure.what())));
+    }
+}
+
+void NoteScreen::Recover() {
+    const RecoveredNote recovered = recovery_.Take(App().Stock());
+    recover_->setVisible(recovery_.Offers());
+    GoodsNote note = recovered.note;
+    if (recovered.storedLines > 0) {
+        Tell(this, QStringLiteral("这张单据的前 %1 行已经保存，单据编号是 %2。")
+                       .arg(recovered.storedLines)
+                       .arg(ToQt(note.number)));
+        if (note.lines.empty()) return recovery_.Discard();
+    }
+    note.number = head_->Entered().number;
+    head_->Show(note);
+    lvw_->Clear();
+    AddLines(note.lines);
 }
 
 GoodsNote NoteScreen::Entered() const {
@@ -120,6 +168,7 @@ void NoteScreen::Preview(const GoodsNote& note) {
     head_->Show(note);
     head_->SetReadOnly();
     for (const NoteLine& line : note.lines) lvw_->AddRow(TextsOf(line));
+    recover_->hide();
     for (QPushButton* command : {add_, del_, ok_}) command->setEnabled(false);
     for (QPushButton* command : ownCommands_) command->setEnabled(false);
     print_->setToolTip({});
@@ -128,11 +177,13 @@ void NoteScreen::Preview(const GoodsNote& note) {
 
 void NoteScreen::Delete() {
     const int row = lvw_->SelectedOrTell(ToQt(layout_.noLineToDelete));
-    if (row >= 0) lvw_->RemoveRow(row);
+    if (row < 0) return;
+    lvw_->RemoveRow(row);
+    KeepTyped();
 }
 
 void NoteScreen::Print() {
-    PrintReport(this, NoteReport(App().Stock(), kind_, head_->Entered().number));
+    PrintNote(this, kind_, head_->Entered().number, *paper_);
 }
 
 bool NoteScreen::RefuseIncomplete(const GoodsNote& note) {
@@ -146,42 +197,26 @@ bool NoteScreen::RefuseIncomplete(const GoodsNote& note) {
     return gap != nullptr;
 }
 
-bool NoteScreen::TakeFreeNumber(GoodsNote& note) {
-    Connection& stock = App().Stock();
-    if (!RowExists(stock, layout_.table, "单据编号", note.number, "N")) return true;
-    const std::string next = kind_ == NoteKind::In ? NextEnterNo(stock) : NextPostNo(stock);
-    if (!Ask(this, QStringLiteral("编号 %1 已被另一张单据使用。用编号 %2 保存这张单据吗？")
-                       .arg(ToQt(note.number), ToQt(next)))) {
-        return false;
-    }
-    note.number = next;
-    head_->SetText(&GoodsNote::number, next);
-    return true;
-}
-
-bool NoteScreen::IsWanted(const GoodsNote& note) {
-    if (kind_ == NoteKind::In) return true;
-    const std::vector<Shortage> shortages = FindShortages(App().Stock(), note.lines);
-    return shortages.empty() ||
-           AskToLose(this, QStringLiteral("下面的材料出库后库存量将小于零：\n%1\n仍要出库吗？")
-                               .arg(ToQt(ShortageText(shortages))));
-}
-
 void NoteScreen::Confirm() {
     GoodsNote note = Entered();
     if (RefuseIncomplete(note)) return;
     if (kind_ == NoteKind::In) head_->SetText(&GoodsNote::amount, AmountOf(note.lines));
-    if (!TakeFreeNumber(note) || !IsWanted(note)) return;
+    if (!TakeFreeNumber(this, kind_, note)) return;
+    head_->SetText(&GoodsNote::number, note.number);
+    if (!IsShortageWanted(this, kind_, note)) return;
+    KeepTyped();
     try {
         ConfirmNote(App().Stock(), kind_, note);
     } catch (const NoteCut& cut) {
         // What stands in the store must not be written again by the next try.
         for (std::size_t i = 0; i < cut.LinesWritten(); ++i) lvw_->RemoveRow(0);
+        KeepTyped();
         throw;
     } catch (const ColumnError& refusal) {
         if (QWidget* box = head_->BoxOfColumn(refusal.Column())) box->setFocus();
         throw;
     }
+    recovery_.Discard();
     accept();
 }
 

@@ -2,7 +2,9 @@
 
 #include "ui/entry_screen.h"
 #include "warehouse/note_layout.h"
+#include "warehouse/note_recovery.h"
 
+class QComboBox;
 class QPushButton;
 
 namespace kalvane {
@@ -11,7 +13,8 @@ class NoteHead;
 class ReportList;
 
 /// What both notes share: the head, the list of lines, confirmation, print, and the preview of a stored note.
-/// Nothing is stored before the note is confirmed.
+/// Nothing is stored before the note is confirmed; what is typed until then is kept for a later screen,
+/// should this one end in any other way.
 class NoteScreen : public EntryScreen {
     Q_OBJECT
 
@@ -29,19 +32,19 @@ class NoteScreen : public EntryScreen {
     ReportList& Lines() { return *lvw_; }
     NoteLine LineAt(int row) const;
     void AddLine(const NoteLine& line);
+    void AddLines(const std::vector<NoteLine>& lines);
     void SetLine(int row, const NoteLine& line);
+    GoodsNote Entered() const;
     QPushButton* AddButton() { return add_; }
 
     bool HasTypedWork() const override;
 
   private:
     QStringList TextsOf(const NoteLine& line) const;
-    GoodsNote Entered() const;
+    /// Brings the recovery file up to date; a failure is reported once and changes nothing else.
+    void KeepTyped();
+    void Recover();
     bool RefuseIncomplete(const GoodsNote& note);
-    /// Asks for another number when this one is taken; false to go on typing.
-    bool TakeFreeNumber(GoodsNote& note);
-    /// Asks when the lines together go beyond the stock.
-    bool IsWanted(const GoodsNote& note);
     void Confirm();
     void Delete();
     void Print();
@@ -53,9 +56,13 @@ class NoteScreen : public EntryScreen {
     QPushButton* add_;
     QPushButton* del_;
     QPushButton* print_;
+    QComboBox* paper_;
+    QPushButton* recover_;
     QPushButton* ok_;
     QPushButton* cancel_;
     std::vector<QPushButton*> ownCommands_;
+    NoteRecovery recovery_;
+    bool recoveryFailed_ = false;
     bool isPreview_ = false;
 };
 
