@@ -10,23 +10,24 @@
 
 namespace kalvane::bench {
 
-/// An empty main store in the working folder, so that it lies on the disk that is measured. Removed at the
+/// An empty store in the working folder, so that it lies on the disk that is measured. Removed at the
 /// end.
 struct ScratchStore {
-    ScratchStore() = default;
+    explicit ScratchStore(StoreKind storeKind = StoreKind::Main) : kind(storeKind) {}
     ScratchStore(const ScratchStore&) = delete;
     ScratchStore& operator=(const ScratchStore&) = delete;
     ~ScratchStore() { std::filesystem::remove(file); }
 
-    static std::filesystem::path Create() {
+    static std::filesystem::path Create(StoreKind kind) {
         std::filesystem::path path = "bench-" + std::to_string(::getpid()) + ".mdb";
         std::filesystem::remove(path);
-        CreateStore(path, StoreKind::Main);
+        CreateStore(path, kind);
         return path;
     }
 
-    std::filesystem::path file = Create();
-    Connection connection{file, StoreKind::Main};
+    StoreKind kind;
+    std::filesystem::path file = Create(kind);
+    Connection connection{file, kind};
 };
 
 }  // namespace kalvane::bench

@@ -35,19 +35,21 @@ void Fill(QWidget* form, const NoteLine& material) {
     if (kinds->currentIndex() < 0) kinds->setCurrentIndex(kinds->findText(ToQt(material.kind)));
 }
 
-/// While the list of proposals is open, Tab takes the only one of them, as it takes one that was chosen.
+/// While the list of proposals is open, Tab takes the only one of them, as it takes one that was chosen, and
+/// ends the list, so that the box knows that its text is complete.
 class TabTakesProposal : public QObject {
   public:
     TabTakesProposal(QCompleter* completer, QLineEdit* box) : QObject(box), completer_(completer), box_(box) {
         completer_->popup()->installEventFilter(this);
+        box_->installEventFilter(this);
     }
 
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress) return false;
+        if (event->type() != QEvent::KeyPress || !completer_->popup()->isVisible()) return false;
+        if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Tab) return false;
         const QAbstractItemModel& proposals = *completer_->completionModel();
-        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Tab && proposals.rowCount() == 1) {
-            box_->setText(proposals.index(0, 0).data().toString());
-        }
+        if (proposals.rowCount() == 1) box_->setText(proposals.index(0, 0).data().toString());
+        completer_->popup()->hide();
         return false;  // the key still leads to the next box
     }
 

@@ -4,9 +4,23 @@
 #include "store/helpers.h"
 #include "ui/dialogs.h"
 #include "ui/text.h"
+#include "warehouse/goods_notes.h"
+#include "warehouse/screens/note_head.h"
 #include "warehouse/stock_shortage.h"
 
 namespace kalvane {
+
+bool RefuseIncomplete(QWidget* screen, NoteKind kind, const GoodsNote& note, const NoteHead& head,
+                      QWidget* add) {
+    QWidget* gap = nullptr;
+    if (const NoteField* field = FirstEmptyField(kind, note)) {
+        gap = head.Box(*field);
+    } else if (note.lines.empty()) {
+        gap = add;
+    }
+    if (gap != nullptr) TellAt(screen, ToQt(kIncompleteNote), gap);
+    return gap != nullptr;
+}
 
 bool TakeFreeNumber(QWidget* screen, NoteKind kind, GoodsNote& note) {
     Connection& stock = App().Stock();

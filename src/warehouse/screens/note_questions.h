@@ -6,6 +6,13 @@ class QWidget;
 
 namespace kalvane {
 
+class NoteHead;
+
+/// Leads to the first gap of a note: an empty head field, or `add` when it has no lines. False when there is
+/// none.
+bool RefuseIncomplete(QWidget* screen, NoteKind kind, const GoodsNote& note, const NoteHead& head,
+                      QWidget* add);
+
 // What is asked before a note is confirmed. False sends the operator back to typing.
 
 /// When the number is taken, proposes the next one, which the note then has.

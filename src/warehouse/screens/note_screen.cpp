@@ -14,6 +14,7 @@
 #include "ui/text.h"
 #include "warehouse/goods_notes.h"
 #include "warehouse/screens/note_head.h"
+#include "warehouse/screens/note_line_texts.h"
 #include "warehouse/screens/note_paper.h"
 #include "warehouse/screens/note_questions.h"
 
@@ -22,12 +23,6 @@ namespace {
 
 constexpr QSize kFirstSize(860, 560);
 
-QStringList LineColumns(const NoteLayout& layout) {
-    QStringList columns;
-    for (const NoteLineField& field : layout.lineFields) columns << ToQt(field.column);
-    return columns;
-}
-
 }  // namespace
 
 NoteScreen::NoteScreen(NoteKind kind, const std::string& number, QWidget* parent)
@@ -35,7 +30,7 @@ NoteScreen::NoteScreen(NoteKind kind, const std::string& number, QWidget* parent
       kind_(kind),
       layout_(LayoutOf(kind)),
       head_(new NoteHead(layout_, this)),
-      lvw_(new ReportList(QStringLiteral("LVW"), LineColumns(layout_), this)),
+      lvw_(new ReportList(QStringLiteral("LVW"), LineColumns(kind_), this)),
       add_(MakeButton("CmdAdd", QStringLiteral("&A 添加"), this, QStringLiteral("Insert"))),
       del_(MakeButton("CmdDel", QStringLiteral("&D 删除"), this, QStringLiteral("Delete"))),
       print_(MakeButton("CmdPrint", QStringLiteral("&P 打印"), this,
@@ -95,18 +90,7 @@ void NoteScreen::LayOut(std::vector<QPushButton*> ownCommands) {
 }
 
 NoteLine NoteScreen::LineAt(int row) const {
-    NoteLine line;
-    int column = 0;
-    for (const NoteLineField& field : layout_.lineFields) {
-        line.*field.member = FromQt(lvw_->Text(row, column++));
-    }
-    return line;
-}
-
-QStringList NoteScreen::TextsOf(const NoteLine& line) const {
-    QStringList texts;
-    for (const NoteLineField& field : layout_.lineFields) texts << ToQt(line.*field.member);
-    return texts;
+    return LineOf(kind_, lvw_->Row(row));
 }
 
 void NoteScreen::AddLine(const NoteLine& line) {
@@ -114,18 +98,18 @@ void NoteScreen::AddLine(const NoteLine& line) {
 }
 
 void NoteScreen::AddLines(const std::vector<NoteLine>& lines) {
-    for (const NoteLine& line : lines) lvw_->AddRow(TextsOf(line));
+    for (const NoteLine& line : lines) lvw_->AddRow(LineTexts(kind_, line));
     if (!lines.empty()) lvw_->SelectRow(lvw_->RowCount() - 1);
     KeepTyped();
 }
 
 void NoteScreen::SetLine(int row, const NoteLine& line) {
-    lvw_->SetRow(row, TextsOf(line));
+    lvw_->SetRow(row, LineTexts(kind_, line));
     KeepTyped();
 }
 
 void NoteScreen::KeepTyped() {
-    if (isPreview_) return;
+    if (isPreview_ || isConfirmed_) return;
     if (!HasTypedWork()) return recovery_.Discard();
     try {
         recovery_.Keep(Entered());
@@ -167,7 +151,7 @@ void NoteScreen::Preview(const GoodsNote& note) {
     setWindowTitle(ToQt(layout_.previewTitle));
     head_->Show(note);
     head_->SetReadOnly();
-    for (const NoteLine& line : note.lines) lvw_->AddRow(TextsOf(line));
+    for (const NoteLine& line : note.lines) lvw_->AddRow(LineTexts(kind_, line));
     recover_->hide();
     for (QPushButton* command : {add_, del_, ok_}) command->setEnabled(false);
     for (QPushButton* command : ownCommands_) command->setEnabled(false);
@@ -186,20 +170,9 @@ void NoteScreen::Print() {
     PrintNote(this, kind_, head_->Entered().number, *paper_);
 }
 
-bool NoteScreen::RefuseIncomplete(const GoodsNote& note) {
-    QWidget* gap = nullptr;
-    if (const NoteField* field = FirstEmptyField(kind_, note)) {
-        gap = head_->Box(*field);
-    } else if (note.lines.empty()) {
-        gap = add_;
-    }
-    if (gap != nullptr) TellAt(this, ToQt(kIncompleteNote), gap);
-    return gap != nullptr;
-}
-
 void NoteScreen::Confirm() {
     GoodsNote note = Entered();
-    if (RefuseIncomplete(note)) return;
+    if (RefuseIncomplete(this, kind_, note, *head_, add_)) return;
     if (kind_ == NoteKind::In) head_->SetText(&GoodsNote::amount, AmountOf(note.lines));
     if (!TakeFreeNumber(this, kind_, note)) return;
     head_->SetText(&GoodsNote::number, note.number);
@@ -216,6 +189,7 @@ void NoteScreen::Confirm() {
         if (QWidget* box = head_->BoxOfColumn(refusal.Column())) box->setFocus();
         throw;
     }
+    isConfirmed_ = true;  // a box that loses the focus as the screen goes keeps nothing more
     recovery_.Discard();
     accept();
 }

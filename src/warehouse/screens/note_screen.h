@@ -40,11 +40,9 @@ class NoteScreen : public EntryScreen {
     bool HasTypedWork() const override;
 
   private:
-    QStringList TextsOf(const NoteLine& line) const;
     /// Brings the recovery file up to date; a failure is reported once and changes nothing else.
     void KeepTyped();
     void Recover();
-    bool RefuseIncomplete(const GoodsNote& note);
     void Confirm();
     void Delete();
     void Print();
@@ -64,6 +62,7 @@ class NoteScreen : public EntryScreen {
     NoteRecovery recovery_;
     bool recoveryFailed_ = false;
     bool isPreview_ = false;
+    bool isConfirmed_ = false;
 };
 
 }  // namespace kalvane
