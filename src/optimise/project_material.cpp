@@ -112,15 +112,22 @@ void CountBars(Connection& main, const Sum& sum, std::int16_t usualBar, Material
     const bool isProfile = sum.materialClass == MaterialClass::Profile;
     need.kind = isProfile ? "型材" : "型钢";
     need.unit = "支";
-    if (const auto bars = BarsOfPlan(main, sum)) {
-        need.count = ShortText(*bars);
+    const Cursor bars = main.OpenCursor((isProfile ? "Select 型材名称,型材长度 from 型材 where 型材型号='"
+                                                   : "Select 型钢名称,型钢长度 from 型钢 where 型钢规格='") +
+                                        sum.code + "'");
+    double length = 0;
+    if (!bars.Eof()) {
+        // The formula row calls it by the part that is made of it.
+        const std::string name = bars.Field(0).TextOrEmpty();
+        if (!name.empty()) need.name = name;
+        length = Val(bars.Field(1).TextOrEmpty());
+    }
+    if (const auto planned = BarsOfPlan(main, sum)) {
+        need.count = ShortText(*planned);
         need.basis = "优化结果";
         return;
     }
-    const auto length = NumberOf(main, (isProfile ? "Select 型材长度 from 型材 where 型材型号='"
-                                                  : "Select 型钢长度 from 型钢 where 型钢规格='") +
-                                           sum.code + "'");
-    const double bar = length.value_or(0) > 0 ? *length : usualBar;
+    const double bar = length > 0 ? length : usualBar;
     if (bar <= 0) {
         need.count = ShortText(sum.pieces);
         need.basis = "段数：材料库和选项设置里没有材料长度";

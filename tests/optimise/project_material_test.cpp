@@ -15,7 +15,8 @@ class ProjectMaterialTest : public MainStoreTest {
                 "窗型钢 (窗号,编号,名称,规格,数量,计算公式) values(5,1,'衬钢','G1','1','B')",
                 "窗板材 (窗号,编号,名称,数量,长公式,宽公式) values(5,1,'5白玻',2,'1000','1000')",
                 "窗配件 (窗号,编号,名称,规格,数量,单位) values(5,1,'滑轮','L1','4','个  ')",
-                "型材 (型材型号,型材长度) values('K60',5800)", "工程 (编号,工程名称) values(1,'甲')",
+                "型材 (型材名称,型材型号,型材长度) values('60框料','K60',5800)",
+                "工程 (编号,工程名称) values(1,'甲')",
                 "工程门窗 (工程编号,门窗编号,编号,门窗名称,樘数) values(1,5,1,'C1',3)",
                 "工程门窗 (工程编号,门窗编号,编号,门窗名称,樘数) values(1,5,2,'C2',1)",
                 "工程门窗 (工程编号,门窗编号,编号,门窗名称,樘数) values(2,5,3,'C3',50)"});
@@ -41,7 +42,7 @@ TEST_F(ProjectMaterialTest, BarsAreMetresOverTheBarLength) {
     // Four windows: K60 4 * (2 * 1440 + 2 * 1800) = 25920 mm, over 5800 is 4.47; G1 4 * 1500 = 6000 is just
     // one usual bar; 8 panes; 16 pulleys.
     EXPECT_EQ(Material(),
-              "型材,框横,K60,5支,25.92米÷5.8米\n型钢,衬钢,G1,1支,6米÷6米\n五金件,滑轮,L1,16个,件数\n"
+              "型材,60框料,K60,5支,25.92米÷5.8米\n型钢,衬钢,G1,1支,6米÷6米\n五金件,滑轮,L1,16个,件数\n"
               "板材,5白玻,5白玻,8块,成品块数\n");
     EXPECT_NE(Material(5999).find("型钢,衬钢,G1,2支,6米÷6米"), std::string::npos);
     EXPECT_NE(Material(0).find("型钢,衬钢,G1,4支,段数"), std::string::npos);
@@ -69,11 +70,11 @@ TEST_F(ProjectMaterialTest, APlanCountsWhenItCutsTheseVeryPieces) {
     GatherDemand(*store_, ListDemandWindows(*store_, "1"));
     Insert({"优化结果 (材料名称,切割规格,数量) values('K60','1800*3',4)",
             "优化结果 (材料名称,切割规格,数量) values('K60','1440*4',2)"});
-    EXPECT_TRUE(Material().starts_with("型材,框横,K60,6支,优化结果\n型钢,衬钢,G1,1支,6米÷6米\n"))
+    EXPECT_TRUE(Material().starts_with("型材,60框料,K60,6支,优化结果\n型钢,衬钢,G1,1支,6米÷6米\n"))
         << Material();
     // A plan of another project, or of some of the windows, does not.
     store_->Execute("Update 优化数据 set 数量=数量+1 where 长度=1440");
-    EXPECT_TRUE(Material().starts_with("型材,框横,K60,5支,25.92")) << Material();
+    EXPECT_TRUE(Material().starts_with("型材,60框料,K60,5支,25.92")) << Material();
 }
 
 }  // namespace

@@ -22,6 +22,8 @@ constexpr QSize kFirstSize(960, 560);
 /// The place of the line, behind the shown columns: a sorted list has another order than the lines.
 constexpr int kPlaceColumn = 9;
 
+constexpr qsizetype kMostNamed = 5;  // of the materials that lack, below the list that has all of them
+
 }  // namespace
 
 frmGCLL::frmGCLL(const ProjectNeeds& needs, std::vector<NoteLine> taken, QWidget* parent)
@@ -89,7 +91,10 @@ void frmGCLL::ShowNeeds() {
                             ToQt(needed.lacking), QString::number(rows.size())};
     }
     lvw_->AddRows(rows);
-    lvw_->selectAll();
+    for (int row = 0; row < lvw_->RowCount(); ++row) {
+        const NoteLine& line = lines_[static_cast<std::size_t>(row)].line;
+        lvw_->topLevelItem(row)->setSelected(Val(line.count) > 0);
+    }
     lvw_->setFocus();
     ShowLacking();
 }
@@ -104,11 +109,17 @@ void frmGCLL::ShowLacking() {
         QTreeWidgetItem* item = lvw_->topLevelItem(static_cast<int>(i));
         for (int column = 0; column < kPlaceColumn; ++column) item->setForeground(column, Qt::red);
     }
-    const QString text = projects_.empty() ? QStringLiteral("没有工程。")
-                         : lines_.empty()  ? QStringLiteral("这个工程没有要领的材料。")
-                         : lacking.isEmpty()
-                             ? QStringLiteral("库存足够。")
-                             : QStringLiteral("库存不足：%1").arg(lacking.join(QStringLiteral("；")));
+    QString text = QStringLiteral("库存足够。");
+    if (projects_.empty()) {
+        text = QStringLiteral("没有工程。");
+    } else if (lines_.empty()) {
+        text = QStringLiteral("这个工程没有要领的材料。");
+    } else if (!lacking.isEmpty()) {
+        text = QStringLiteral("库存不足：%1").arg(lacking.mid(0, kMostNamed).join(QStringLiteral("；")));
+        if (lacking.size() > kMostNamed) {
+            text += QStringLiteral("……共 %1 种，见“缺”一栏").arg(lacking.size());
+        }
+    }
     lacking_->setText(text);
 }
 
