@@ -287,10 +287,9 @@ TEST_F(StockDeskFlow, NotesArePrintedOnEitherPaperAndListsExported) {
         .Run([&] { Open("mnuQuery"); });
     // 210 mm and 148 mm in points of 1/72 inch, as PDF has them.
     EXPECT_NE(ReadFile(folder_ / "a5.pdf").find("/MediaBox [0 0 595.000000 420.000000]"), std::string::npos);
-    EXPECT_EQ(XlsxReader(folder_ / "in.xlsx").Sheet(1).cells.substr(0, 11), "A1=入库单");
-    EXPECT_NE(XlsxReader(folder_ / "in.xlsx").Sheet(1).cells.find("A3=#1|B3=甲厂|C3=#20|D3=生产|"),
-              std::string::npos)
-        << XlsxReader(folder_ / "in.xlsx").Sheet(1).cells;
+    const std::string cells = XlsxReader(folder_ / "in.xlsx").Sheet(1).cells;
+    EXPECT_TRUE(cells.starts_with("A1=入库单")) << cells;
+    EXPECT_NE(cells.find("A3=#1|B3=甲厂|C3=#20|D3=生产|"), std::string::npos) << cells;
     EXPECT_NE(ReadFile(folder_ / "in.txt").find("1\t甲厂\t20\t生产\tP-7\t王\t2002-03-04\t\r\n"),
               std::string::npos);
 }
