@@ -1,9 +1,8 @@
 // What helps a storekeeper beside the notes: typed work that comes back, completion, movements, minimums,
 // goods out for a project, and paper.
 
-#include "app/screens/MDIMain.h"
 #include "platform/files.h"
-#include "support/screens/screen_kit.h"
+#include "support/screens/warehouse_test.h"
 #include "support/xlsx_reader.h"
 #include "warehouse/goods_notes.h"
 #include "warehouse/minimum_stock.h"
@@ -13,18 +12,8 @@
 namespace kalvane::test {
 namespace {
 
-class StockDeskFlow : public ScreenTest {
+class StockDeskFlow : public WarehouseScreensTest {
   protected:
-    void SetUp() override {
-        ScreenTest::SetUp();
-        frame_ = std::make_unique<MDIMain>();
-        frame_->Load();
-        frame_->show();
-    }
-
-    static std::string Stock(const std::string& sql) { return test::Rows(App().Stock(), sql); }
-    void Open(const char* command) { Find<QAction>(frame_.get(), command)->trigger(); }
-
     static NoteLine Line(const char* name, const char* code, const char* count) {
         return {name, code, "支", "2", count, "型材"};
     }
@@ -48,8 +37,6 @@ class StockDeskFlow : public ScreenTest {
             Press(line, "OKButton");
         };
     }
-
-    std::unique_ptr<MDIMain> frame_;
 };
 
 TEST_F(StockDeskFlow, ATypedNoteComesBackUntilItIsConfirmed) {

@@ -1,23 +1,13 @@
 // Goods in, goods out and the query, through the screens.
 
-#include "app/screens/MDIMain.h"
 #include "platform/files.h"
-#include "support/screens/screen_kit.h"
+#include "support/screens/warehouse_test.h"
 
 namespace kalvane::test {
 namespace {
 
-class WarehouseFlow : public ScreenTest {
+class WarehouseFlow : public WarehouseScreensTest {
   protected:
-    void SetUp() override {
-        ScreenTest::SetUp();
-        frame_ = std::make_unique<MDIMain>();
-        frame_->Load();
-        frame_->show();
-    }
-
-    static std::string Stock(const std::string& sql) { return test::Rows(App().Stock(), sql); }
-    void Open(const char* command) { Find<QAction>(frame_.get(), command)->trigger(); }
     QStringList Said(std::initializer_list<const char*> texts) const {
         QStringList said;
         for (const char* text : texts) said << QStringLiteral("提示|") + QString::fromUtf8(text);
@@ -48,8 +38,6 @@ class WarehouseFlow : public ScreenTest {
             .On("frmEnterData", EnterLine(code, price, count))
             .Run([&] { Open("mnuInput"); });
     }
-
-    std::unique_ptr<MDIMain> frame_;
 };
 
 TEST_F(WarehouseFlow, GoodsInIsCheckedBoxByBoxAndConfirmed) {
