@@ -1,5 +1,6 @@
 #include "catalogue/screens/frmDatabase.h"
 
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSplitter>
 
@@ -24,7 +25,7 @@ constexpr QSize kFirstSize(1060, 640);
 }  // namespace
 
 frmDatabase::frmDatabase(QWidget* parent)
-    : Screen(QStringLiteral("frmDatabase"), QStringLiteral("数据库管理"), parent),
+    : EntryScreen(QStringLiteral("frmDatabase"), QStringLiteral("数据库管理"), parent),
       tvw_(new CatalogueTree(this)),
       materials_(new MaterialList(this)) {
     LayOut();
@@ -81,6 +82,8 @@ void frmDatabase::LayOut() {
     resize(kFirstSize);
     ReportList* list = materials_->List();
     list->OfferInMenu({add, edit, del, uses});
+    OnEnter(list, [this] { EditMaterial(); });
+    OnEnter(materials_->FilterBox(), [list] { list->setFocus(); });
     PressOnKeys(list, Qt::Key_Insert, add);
     PressOnKeys(list, Qt::Key_F2, edit);
     PressOnKeys(list, Qt::Key_Delete, del);

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "ui/screen.h"
+#include "ui/entry_screen.h"
 
 class QPushButton;
 
@@ -12,7 +12,7 @@ class CatalogueTree;
 class MaterialList;
 
 /// The catalogue: makers and series of materials, and the materials of the selected one.
-class frmDatabase : public Screen {
+class frmDatabase : public EntryScreen {
     Q_OBJECT
 
   public:

@@ -27,6 +27,7 @@ class MaterialList : public QWidget {
     void Reload();
 
     ReportList* List() const { return list_; }
+    QLineEdit* FilterBox() const { return filter_; }
     /// Null while there are no columns.
     const CatalogueClass* Class() const { return class_; }
     const std::string& Node() const { return node_; }
