@@ -30,8 +30,9 @@ bool Export(QWidget* parent, const SaveRequest& request, const WriteFile& write)
 
 }  // namespace
 
-bool ExportText(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write) {
-    return Export(parent, {purpose, QStringLiteral("*.txt|*.txt"), QStringLiteral("txt"), name}, write);
+bool ExportText(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write,
+                const QString& filter) {
+    return Export(parent, {purpose, filter, QStringLiteral("txt"), name}, write);
 }
 
 bool ExportPdf(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write) {

@@ -14,8 +14,9 @@ namespace kalvane {
 
 using WriteFile = std::function<void(const std::filesystem::path& file)>;
 
-/// A text file.
-bool ExportText(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write);
+/// A text file; `filter` as in SaveRequest.
+bool ExportText(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write,
+                const QString& filter = QStringLiteral("*.txt|*.txt"));
 
 /// A PDF file.
 bool ExportPdf(QWidget* parent, const QString& purpose, const QString& name, const WriteFile& write);

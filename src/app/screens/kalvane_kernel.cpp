@@ -6,6 +6,7 @@
 #include "optimise/project_material.h"
 #include "optimise/screens/frmCreate02.h"
 #include "output/screens/FrmGJB.h"
+#include "output/screens/frmTJJS.h"
 #include "project/screens/frmMCGCGL.h"
 #include "session/app_state.h"
 #include "ui/main_frame.h"
@@ -22,6 +23,7 @@ ProjectRoads KalvaneKernel::Roads() {
         App().optimiseProjectName = project.name;
         frmCreate02(project.number, parent).exec();
     };
+    roads.totals = [](QWidget* parent, const Project& project) { frmTJJS(project, parent).exec(); };
     return roads;
 }
 

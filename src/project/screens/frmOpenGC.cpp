@@ -38,7 +38,7 @@ frmOpenGC::frmOpenGC(ProjectRoads roads, QWidget* parent)
     QPushButton* optimise =
         MakeButton("cmdYH", QStringLiteral("优化"), this, QStringLiteral("选择本工程的门窗，优化下料"));
     QPushButton* exit = MakeButton("CmdExit", QStringLiteral("退出"), this, QStringLiteral("Esc"));
-    for (QPushButton* button : {composite, totals}) MarkAsComing(button);
+    MarkAsComing(composite);
     edit->setDefault(true);
 
     lvw_->OfferInMenu({edit, add, del});
@@ -54,6 +54,7 @@ frmOpenGC::frmOpenGC(ProjectRoads roads, QWidget* parent)
     OnSignal(number, &QPushButton::clicked, this, [this] { AskStartNumber(); });
     OnSignal(sheets, &QPushButton::clicked, this, [this] { ShowSheets(); });
     OnSignal(optimise, &QPushButton::clicked, this, [this] { Optimise(); });
+    OnSignal(totals, &QPushButton::clicked, this, [this] { ShowTotals(); });
     OnSignal(exit, &QPushButton::clicked, this, [this] { Leave(); });
 }
 
@@ -158,6 +159,11 @@ void frmOpenGC::ShowSheets() {
 
 void frmOpenGC::Optimise() {
     roads_.optimise(this, project_);
+}
+
+void frmOpenGC::ShowTotals() {
+    if (lvw_->RowCount() == 0) return Tell(this, QStringLiteral("当前工程中无门窗！"));
+    roads_.totals(this, project_);
 }
 
 }  // namespace kalvane

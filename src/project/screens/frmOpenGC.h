@@ -34,6 +34,7 @@ class frmOpenGC : public Screen {
     void AskStartNumber();
     void ShowSheets();
     void Optimise();
+    void ShowTotals();
     /// Runs the screen of one window, and lists the windows anew after every change it makes.
     void RunWindowScreen(frmAddGCMC& screen);
     /// Lists the windows as they are in the store and selects the one of that number, if it is there.

@@ -15,6 +15,7 @@ struct ProjectRoads {
     /// The component sheets of the project, that of the window with that number first.
     std::function<void(QWidget* parent, const Project& project, const std::string& windowNumber)> sheets;
     std::function<void(QWidget* parent, const Project& project)> optimise;
+    std::function<void(QWidget* parent, const Project& project)> totals;  ///< of a project with windows
 };
 
 }  // namespace kalvane
