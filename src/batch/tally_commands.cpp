@@ -1,6 +1,7 @@
 #include "batch/tally_commands.h"
 
 #include <CLI/CLI.hpp>
+#include <ctime>
 #include <iostream>
 #include <span>
 
@@ -10,9 +11,10 @@
 #include "numeric/error.h"
 #include "numeric/number.h"
 #include "numeric/text.h"
+#include "output/gathering_record.h"
 #include "output/material_summary.h"
 #include "output/settlement.h"
-#include "output/tally.h"
+#include "output/tally_check.h"
 #include "output/tally_reports.h"
 #include "store/helpers.h"
 
@@ -44,6 +46,13 @@ std::vector<std::string> Parts(std::string_view text, std::size_t count, const c
     if (parts.size() == count) return parts;
     throw Error("“" + std::string(option) + " " + std::string(text) + "”应是用逗号分开的 " +
                 std::to_string(count) + " 个数。");
+}
+
+std::string TimeText() {
+    const std::time_t now = std::time(nullptr);
+    char text[32];
+    std::strftime(text, sizeof text, "%Y-%m-%d %H:%M", std::localtime(&now));
+    return text;
 }
 
 OutputView ViewNamed(const std::string& name) {
@@ -101,7 +110,11 @@ std::vector<WindowEntry> TallyCommands::Windows(Connection& connection) const {
 
 void TallyCommands::Gather(Connection& connection) const {
     LineNotice notice;
-    GatherTallies(connection, Windows(connection), notice);
+    GatherAndRecord(connection, project_, Windows(connection), TimeText(), notice);
+}
+
+std::vector<std::string> TallyCommands::Note(Connection& connection, TallyView view) const {
+    return PriceNote(connection, CheckTally(connection, Classes(), view), view, Windows(connection));
 }
 
 void TallyCommands::FillSettlementOf(Connection& connection) const {
@@ -145,7 +158,6 @@ void TallyCommands::PrintFees(Connection& connection) const {
 void TallyCommands::Tally() const {
     LockedStore store(folder_, StoreKind::Main);
     Connection& connection = store.Get();
-    const ClassChoice classes = Classes();
     FieldSlots slots;
     TallyState tally;
     Gather(connection);
@@ -155,12 +167,11 @@ void TallyCommands::Tally() const {
         PrintLabels(connection);
     } else if (view_ == "fees") {
         PrintFees(connection);
-    } else if (view_ == "summary") {
-        BuildMaterialSummary(connection, classes, slots, tally);
-        PrintRows(connection, kTallyQuery);
     } else {
-        BuildMaterialDetail(connection, classes, slots);
+        const OutputView view = view_ == "summary" ? OutputView::CmdOut1 : OutputView::cmdOut3;
+        RebuildForOutput(connection, view, Classes(), slots, tally);
         PrintRows(connection, kTallyQuery);
+        for (const std::string& line : Note(connection, *TallyViewOf(view))) std::cerr << line << '\n';
     }
 }
 
@@ -179,8 +190,13 @@ void TallyCommands::Output() const {
     if (TallyViewOf(view)) Gather(connection);
     if (!TallyViewOf(view) && !prices_.empty()) FillSettlementOf(connection);
     RebuildForOutput(connection, view, Classes(), slots, tally);
-    const std::optional<FileTable> table = LoadOutput(connection, view);
+    std::optional<FileTable> table = LoadOutput(connection, view);
     if (!table) return;
+    const std::optional<TallyView> tallyView = TallyViewOf(view);
+    for (const std::string& line : tallyView ? Note(connection, *tallyView) : std::vector<std::string>()) {
+        std::cerr << line << '\n';
+        if (!to_.empty()) table->below.push_back({line});
+    }
     if (to_.empty()) {
         std::cout << TableText({*table}, TabPlace::BehindEachCell);
     } else if (to_.ends_with(".xlsx")) {

@@ -29,6 +29,8 @@ class TallyCommands {
     ClassChoice Classes() const;
     std::vector<WindowEntry> Windows(Connection& connection) const;
     void Gather(Connection& connection) const;
+    /// The closing note on rows without a price of their own.
+    std::vector<std::string> Note(Connection& connection, TallyView view) const;
     void FillSettlementOf(Connection& connection) const;
     void PrintRaw(Connection& connection) const;
     void PrintLabels(Connection& connection) const;

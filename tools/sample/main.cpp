@@ -16,6 +16,8 @@
 #include "optimise/plan_file.h"
 #include "optimise/run.h"
 #include "output/screens/FrmEasyGJBReport.h"
+#include "output/order_lists.h"
+#include "output/tally_tables.h"
 #include "platform/settings_store.h"
 #include "project/project_list.h"
 #include "project/project_windows.h"
@@ -390,6 +392,64 @@ void ShowSheetsAndShortTable(QWidget* windows) {
     ShowShortTable(ListWindows(App().Main(), App().currentProjectId), kProject, windows);
 }
 
+void SaveTable(const FileTable& table, const std::string& name) {
+    SaveTableText({table}, TabPlace::BehindEachCell, out / (name + ".txt"));
+    TableWorkbook({table}).Save(out / (name + ".xlsx"));
+}
+
+void SaveOutput(OutputView view, const std::string& name) {
+    RebuildForOutput(App().Main(), view, {}, SharedFieldSlots(), App().tally);
+    SaveTable(*LoadOutput(App().Main(), view), name);
+}
+
+/// Material, prices and settlement of the whole order, each as PDF, text and workbook.
+void ShowTotals(QWidget* windows) {
+    WhenShown("frmTJJS", [](QWidget* totals) {
+        Press(totals, "CmdSelectAll");
+        Press(totals, "CmdTJ");
+        SavePdf(totals, "CmdTJ01", "material");
+        SaveOutput(OutputView::CmdOut1, "material");
+        WhenShown("frmSZZJ", [](QWidget* fees) {
+            const char* const prices[] = {"35", "12.5", "8", "5"};
+            for (std::size_t i = 0; i < std::size(prices); ++i) {
+                Control<QLineEdit>(fees, ("Text1(" + std::to_string(i) + ")").c_str())->setText(prices[i]);
+            }
+            TakePicture(fees, "frmSZZJ");
+            Press(fees, "OKButton");
+        });
+        SavePdf(totals, "CmdTJ02", "prices");
+        SaveOutput(OutputView::cmdOut2, "prices");
+        SavePdf(totals, "CmdTJ03", "details");
+        SaveOutput(OutputView::cmdOut3, "details");
+        WhenShown("frmJSJE", [](QWidget* prices) {
+            Control<QLineEdit>(prices, "Text1(0)")->setText("420");
+            Control<QLineEdit>(prices, "Text1(1)")->setText("365");
+            TakePicture(prices, "frmJSJE");
+            Press(prices, "OKButton");
+        });
+        Press(totals, "CmdJS");
+        SavePdf(totals, "CmdJS01", "areas");
+        SaveOutput(OutputView::cmdOutTJB, "areas");
+        SavePdf(totals, "CmdJS02", "settlement");
+        SaveOutput(OutputView::cmdOutZJB, "settlement");
+        SavePdf(totals, "CmdCGD", "buying");
+        SaveTable(BuyingList(App().Main()), "buying");
+        SavePdf(totals, "CmdBLD", "glass");
+        SaveTable(GlassList(App().Main(), ListWindows(App().Main(), App().currentProjectId)), "glass");
+        WhenShown("frmTJMX", [](QWidget* rows) {
+            auto* tally = Control<ReportList>(rows, "LvwTJ");
+            tally->SelectRow(1);
+            Q_EMIT tally->DoubleClicked();
+            TakePicture(rows, "frmTJMX");
+            Leave(rows);
+        });
+        Press(totals, "CmdMX");
+        TakePicture(totals, "frmTJJS");
+        Leave(totals);
+    });
+    Press(windows, "CmdTotal");
+}
+
 void SavePlan(const std::string& name) {
     const std::string today = FromQt(QDate::currentDate().toString("yyyy-MM-dd"));
     const PlanOutput plan = LoadPlanOutput(App().Main(), kProject, today);
@@ -433,6 +493,7 @@ void Run() {
     SavePlan("plan-scheme-2");
     SaveWindowPictures();
     ShowSheetsAndShortTable(windows);
+    ShowTotals(windows);
     ShowManualList(frame);
     ShowWindChecks(frame);
     ShowModal(frame, "mnuDatabaseManage", "frmTools", [](QWidget* tools) {
