@@ -15,6 +15,7 @@ namespace {
 
 constexpr const char* kSign = "*";
 constexpr std::size_t kUsesShown = 6;
+constexpr std::size_t kFees = 4;
 
 bool HasCatalogueRow(Connection& connection, const TallyGroup& group) {
     const CatalogueTable catalogue = CatalogueOf(group.materialClass);
@@ -87,6 +88,18 @@ std::vector<CheckedRow> CheckTally(Connection& connection, const ClassChoice& cl
 double ExactTotal(std::span<const CheckedRow> rows) {
     double total = 0;
     for (const CheckedRow& row : rows) total += ToCents(row.exact);
+    return ToCents(total);
+}
+
+double ExactOrderTotal(std::span<const CheckedRow> rows, std::span<const WindowEntry> windows,
+                       const FieldSlots& slots) {
+    double squareMillimetres = 0;
+    for (const WindowEntry& window : windows) {
+        squareMillimetres += static_cast<double>(RoundToInt32(Val(window.width))) *
+                             RoundToInt32(Val(window.height)) * RoundToInt32(Val(window.count));
+    }
+    double total = ExactTotal(rows);
+    for (std::size_t i = 0; i < kFees; ++i) total += ToCents(squareMillimetres / 1000000 * Val(slots[i]));
     return ToCents(total);
 }
 

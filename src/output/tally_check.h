@@ -9,6 +9,7 @@
 #include "page/table_file.h"
 #include "project/project_windows.h"
 #include "store/connection.h"
+#include "store/field_slots.h"
 
 namespace kalvane {
 
@@ -40,6 +41,11 @@ std::vector<std::string> PriceNote(Connection& connection, std::span<const Check
 /// Marks the rows without a price of their own in a report of the tally, in a column behind the others, and
 /// adds the note to its end. A report without such rows stays as it is.
 void MarkPrices(Report& report, std::span<const CheckedRow> rows, const std::vector<std::string>& note);
+
+/// Material at its exact amounts and the fees of a square metre in slots 0 to 3, each to the cent, of the
+/// windows' sizes in whole millimetres.
+double ExactOrderTotal(std::span<const CheckedRow> rows, std::span<const WindowEntry> windows,
+                       const FieldSlots& slots);
 
 /// A sheet with the exact amounts beside those of the tally, and the signs; nothing to write when no row
 /// loses cents or lacks its price.

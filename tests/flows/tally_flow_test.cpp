@@ -180,6 +180,7 @@ TEST_F(TallyFlow, DoorsAndWindowsAreSettled) {
     App().Main().Execute("Insert into OutJS (BN) values(7)");
     dialogs_.files = {InFolder("js.xlsx")};
     AtTotals(script);
+    EXPECT_EQ(TakeSaid(), "");
     EXPECT_EQ(SharedFieldSlots()[4], "甲公司");
     // 1500*1800/1000000*3 = 8.1
     EXPECT_EQ(XlsxReader(folder_ / "js.xlsx").Sheet(1).cells,

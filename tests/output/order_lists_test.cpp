@@ -86,6 +86,10 @@ TEST_F(OrderListsTest, PricesThatAreNotTheRowsOwnAreMarked) {
     ASSERT_EQ(rows.size(), 5U);
     EXPECT_FALSE(rows[3].isInCatalogue);
     EXPECT_EQ(CentsText(ExactTotal(rows)), "578.32");  // 174.15 + 6.43 + 15 + 382.74
+    slots = FieldSlots();
+    slots[0] = "10.1";
+    // 8.1 square metres: 81.81
+    EXPECT_EQ(CentsText(ExactOrderTotal(rows, std::vector{Window("C1", "5", "1")}, slots)), "660.13");
     const auto note = PriceNote(*store_, rows, TallyView::Summary, std::vector{Window("C1", "5", "1")});
     ASSERT_EQ(note.size(), 3U);
     EXPECT_EQ(note[1], "* 第 4 行，配件“S1”：C1 的“锁”");

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "output/cents.h"
 #include "output/gathering_record.h"
 #include "output/material_summary.h"
 #include "output/screens/tally_files.h"
@@ -132,7 +133,11 @@ void TallyPanel::ShowPrices() {
     BuildMaterialSummary(App().Main(), Classes(), SharedFieldSlots(), App().tally);
     AskFees(screen_);
     const OrderFees fees = WorkOutFees(App().Main(), choice_.windows(), SharedFieldSlots());
-    Show(drTJCL02(App().Main(), choice_.Head(), MakerName(""), fees), TallyView::Summary);
+    Report report = drTJCL02(App().Main(), choice_.Head(), MakerName(""), fees);
+    const std::vector<CheckedRow> rows = CheckTally(App().Main(), Classes(), TallyView::Summary);
+    const double exact = ExactOrderTotal(rows, choice_.windows(), SharedFieldSlots());
+    report.closing.push_back({"其中有单价的材料和费用（准确到分）：" + CentsText(exact) + " 元"});
+    Show(std::move(report), TallyView::Summary);
 }
 
 void TallyPanel::Output(OutputView view) {
