@@ -21,6 +21,7 @@ struct BillRow {
     std::string unit;      ///< 单位 of a fitting
     /// What it was worked out from, for as long as the row is being handed on.
     const FormulaRow* formulas = nullptr;
+    const std::string* typeId = nullptr;  ///< 门窗.编号
     const LabelSet* labels = nullptr;
 };
 

@@ -58,6 +58,7 @@ void ExpandType(FormulaRows& rows, const std::string& typeId, const LabelSet& la
             BillRow bill;
             bill.materialClass = materialClass;
             bill.formulas = &row;
+            bill.typeId = &typeId;
             bill.labels = &labels;
             bill.name = row.name.Text();
             expand(bill, row, labels, multiplier);

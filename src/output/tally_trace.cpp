@@ -40,7 +40,8 @@ TraceLine LineOf(const WindowEntry& window, const BillRow& row) {
             isFitting ? withValues(formulas.quantity) : both(withValues),
             row.length,
             row.width,
-            row.quantity};
+            row.quantity,
+            *row.typeId};
 }
 
 }  // namespace

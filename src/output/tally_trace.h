@@ -22,6 +22,7 @@ struct TraceLine {
     std::string length;    ///< mm
     std::string width;
     std::string quantity;  ///< of all units
+    std::string typeId;    ///< 门窗.编号 of the window type with the formula
 };
 
 /// What a group of the tally sums, worked out afresh from the windows. A window with a failure has what stood

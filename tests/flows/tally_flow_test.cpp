@@ -199,21 +199,28 @@ TEST_F(TallyFlow, ARowIsTracedToItsFormulasByDoubleClick) {
                 Press(screen, "CmdTJ");
                 Press(screen, "CmdMX");
             })
-        .On("frmTJMX", [&](QDialog& screen) {
-            auto* tally = Find<ReportList>(&screen, "LvwTJ");
-            EXPECT_EQ(tally->Text(3, 7), QStringLiteral("* 材料库中没有"));
-            EXPECT_EQ(tally->topLevelItem(4)->toolTip(6), QStringLiteral("准确金额 382.74 元"));
-            QTest::mouseDClick(tally->viewport(), Qt::LeftButton, {},
-                               tally->visualItemRect(tally->topLevelItem(0)).center());
-            EXPECT_EQ(Table(screen, "LvwMX"),
-                      "C1|客厅|3|框B|B-60|1500-60|1440||6\nC1|客厅|3|框H|h-h1-60|1800-600-60|1140||6");
-            Find<QComboBox>(&screen, "cmbTJ")->setCurrentIndex(1);
-            EXPECT_EQ(tally->Text(0, 2), QStringLiteral("1140"));
-            tally->SelectRow(0);
-            QTest::mouseDClick(tally->viewport(), Qt::LeftButton, {},
-                               tally->visualItemRect(tally->topLevelItem(0)).center());
-            EXPECT_EQ(Table(screen, "LvwMX"), "C1|客厅|3|框H|h-h1-60|1800-600-60|1140||6");
-        });
+        .On("frmTJMX",
+            [&](QDialog& screen) {
+                auto* tally = Find<ReportList>(&screen, "LvwTJ");
+                EXPECT_EQ(tally->Text(3, 7), QStringLiteral("* 材料库中没有"));
+                EXPECT_EQ(tally->topLevelItem(4)->toolTip(6), QStringLiteral("准确金额 382.74 元"));
+                QTest::mouseDClick(tally->viewport(), Qt::LeftButton, {},
+                                   tally->visualItemRect(tally->topLevelItem(0)).center());
+                EXPECT_EQ(Table(screen, "LvwMX"),
+                          "C1|客厅|3|框B|B-60|1500-60|1440||6\nC1|客厅|3|框H|h-h1-60|1800-600-60|1140||6");
+                Deselect(screen, "LvwMX");
+                Press(screen, "CmdDesign");
+                EXPECT_EQ(TakeSaid(), Said("请先双击上面的一行，再选取下面的一条公式。"));
+                Find<ReportList>(&screen, "LvwMX")->SelectRow(0);
+                Press(screen, "CmdDesign");
+                Find<QComboBox>(&screen, "cmbTJ")->setCurrentIndex(1);
+                EXPECT_EQ(tally->Text(0, 2), QStringLiteral("1140"));
+                tally->SelectRow(0);
+                QTest::mouseDClick(tally->viewport(), Qt::LeftButton, {},
+                                   tally->visualItemRect(tally->topLevelItem(0)).center());
+                EXPECT_EQ(Table(screen, "LvwMX"), "C1|客厅|3|框H|h-h1-60|1800-600-60|1140||6");
+            })
+        .On("FrmMCGS", [](QDialog&) {});
     AtTotals(script);
 }
 

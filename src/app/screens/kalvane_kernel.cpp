@@ -1,17 +1,32 @@
 #include "app/screens/kalvane_kernel.h"
 
+#include "app/rights.h"
 #include "backup/screens/frmTools.h"
 #include "catalogue/screens/frmDatabase.h"
 #include "design/screens/FrmDesign.h"
 #include "optimise/project_material.h"
+#include "design/screens/FrmMCGS.h"
 #include "optimise/screens/frmCreate02.h"
 #include "output/screens/FrmGJB.h"
 #include "output/screens/frmTJJS.h"
 #include "project/screens/frmMCGCGL.h"
 #include "session/app_state.h"
+#include "ui/dialogs.h"
 #include "ui/main_frame.h"
 
 namespace kalvane {
+namespace {
+
+void DesignWindowType(QWidget* parent, const std::string& typeId) {
+    if (!IsGranted(App().userAuth, Right::Design)) {
+        return Tell(parent, QStringLiteral("您没有“窗型设计”的权限。"));
+    }
+    RecoveryShelf shelf(App().folder, "unsaved-formulas-");
+    shelf.PutAside();
+    FrmMCGS(typeId, shelf, parent).exec();
+}
+
+}  // namespace
 
 ProjectRoads KalvaneKernel::Roads() {
     ProjectRoads roads;
@@ -23,7 +38,9 @@ ProjectRoads KalvaneKernel::Roads() {
         App().optimiseProjectName = project.name;
         frmCreate02(project.number, parent).exec();
     };
-    roads.totals = [](QWidget* parent, const Project& project) { frmTJJS(project, parent).exec(); };
+    roads.totals = [](QWidget* parent, const Project& project) {
+        frmTJJS(project, DesignWindowType, parent).exec();
+    };
     return roads;
 }
 

@@ -27,7 +27,7 @@ std::vector<WindowEntry> WindowsIn(const ReportList& list) {
 
 }  // namespace
 
-frmTJJS::frmTJJS(const Project& project, QWidget* parent)
+frmTJJS::frmTJJS(const Project& project, ShowDesigner showDesigner, QWidget* parent)
     : Screen(QStringLiteral("frmTJJS"), QStringLiteral("统计决算"), parent),
       lists_(new PickLists(
           {.offeredName = QStringLiteral("LvwR"),
@@ -40,7 +40,8 @@ frmTJJS::frmTJJS(const Project& project, QWidget* parent)
            .chooseAll = {"CmdSelectAll", QStringLiteral("全选>>"), QStringLiteral("无可选入对象！")},
            .removeAll = {"CmdRemoveAll", QStringLiteral("<<全移除"), QStringLiteral("无可选入对象！")}},
           this)) {
-    const OrderChoice choice{project, [this] { return WindowsIn(lists_->Chosen()); }};
+    const OrderChoice choice{project, [this] { return WindowsIn(lists_->Chosen()); },
+                             std::move(showDesigner)};
     QPushButton* exit = MakeButton("CmdExit", QStringLiteral("退出&E"), this, QStringLiteral("Esc"));
     auto* accounts = new QHBoxLayout;
     accounts->addWidget(new TallyPanel(choice, this), 2);

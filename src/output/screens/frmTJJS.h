@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/project_list.h"
+#include "output/screens/order_choice.h"
 #include "ui/screen.h"
 
 namespace kalvane {
@@ -12,7 +12,7 @@ class frmTJJS : public Screen {
     Q_OBJECT
 
   public:
-    frmTJJS(const Project& project, QWidget* parent);
+    frmTJJS(const Project& project, ShowDesigner showDesigner, QWidget* parent);
 
   private:
     PickLists* lists_;

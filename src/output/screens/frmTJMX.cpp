@@ -36,9 +36,10 @@ QString SumText(const CheckedRow& row, const std::vector<TraceLine>& lines) {
 
 }  // namespace
 
-frmTJMX::frmTJMX(GatheringRecord record, QWidget* parent)
+frmTJMX::frmTJMX(GatheringRecord record, ShowDesigner showDesigner, QWidget* parent)
     : Screen(QStringLiteral("frmTJMX"), QStringLiteral("逐行核对"), parent),
       record_(std::move(record)),
+      showDesigner_(std::move(showDesigner)),
       view_(new QComboBox(this)),
       tally_(new ReportList(
           QStringLiteral("LvwTJ"),
@@ -73,11 +74,14 @@ frmTJMX::frmTJMX(GatheringRecord record, QWidget* parent)
     rows->addWidget(lists, 1);
     rows->addWidget(note_);
     QPushButton* exit = MakeButton("CmdExit", QStringLiteral("返回 &E"), this, QStringLiteral("Esc"));
-    LayOutAboveButtons(this, body, {exit});
+    QPushButton* design = MakeButton("CmdDesign", QStringLiteral("改公式 &D"), this,
+                                     QStringLiteral("打开下面选取的公式所在的窗型"));
+    LayOutAboveButtons(this, body, {design, exit});
     resize(kFirstSize);
 
     OnSignal(view_, &QComboBox::currentIndexChanged, this, [this] { Load(); });
     OnSignal(tally_, &ReportList::DoubleClicked, this, [this] { Trace(); });
+    OnSignal(design, &QPushButton::clicked, this, [this] { Design(); });
     OnSignal(exit, &QPushButton::clicked, this, [this] { Leave(); });
     Guarded(this, [this] { Load(); });
 }
@@ -114,15 +118,21 @@ void frmTJMX::Trace() {
     if (place < 0) return;
     const CheckedRow& row = rows_[static_cast<std::size_t>(tally_->Tag(place).toInt()) - 1];
     const std::vector<TraceLine> lines = TraceGroup(App().Main(), record_.windows, row.group);
-    QList<QStringList> texts;
-    for (const TraceLine& line : lines) {
-        texts << QStringList{ToQt(line.window), ToQt(line.position), ToQt(line.count),
-                             ToQt(line.name),   ToQt(line.formula),  ToQt(line.values),
-                             ToQt(line.length), ToQt(line.width),    ToQt(line.quantity)};
-    }
     trace_->Clear();
-    trace_->AddRows(texts);
+    for (const TraceLine& line : lines) {
+        const QStringList texts{ToQt(line.window), ToQt(line.position), ToQt(line.count),
+                                ToQt(line.name),   ToQt(line.formula),  ToQt(line.values),
+                                ToQt(line.length), ToQt(line.width),    ToQt(line.quantity)};
+        trace_->AddRow(texts, ToQt(line.typeId));
+    }
     sum_->setText(SumText(row, lines));
+}
+
+void frmTJMX::Design() {
+    const int place = trace_->SelectedOrTell(QStringLiteral("请先双击上面的一行，再选取下面的一条公式。"));
+    if (place < 0) return;
+    showDesigner_(this, FromQt(trace_->Tag(place)));
+    Load();
 }
 
 }  // namespace kalvane

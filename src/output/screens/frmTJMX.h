@@ -1,6 +1,7 @@
 #pragma once
 
 #include "output/gathering_record.h"
+#include "output/screens/order_choice.h"
 #include "output/tally_check.h"
 #include "ui/screen.h"
 
@@ -17,14 +18,17 @@ class frmTJMX : public Screen {
     Q_OBJECT
 
   public:
-    frmTJMX(GatheringRecord record, QWidget* parent);
+    frmTJMX(GatheringRecord record, ShowDesigner showDesigner, QWidget* parent);
 
   private:
     TallyView View() const;
     void Load();
     void Trace();
+    /// Opens the designer of the selected formula's window type.
+    void Design();
 
     const GatheringRecord record_;
+    const ShowDesigner showDesigner_;
     std::vector<CheckedRow> rows_;
     QComboBox* view_;
     ReportList* tally_;

@@ -8,12 +8,18 @@
 #include "project/project_list.h"
 #include "project/project_windows.h"
 
+class QWidget;
+
 namespace kalvane {
+
+/// Opens the formula designer of a window type (门窗.编号) over `parent` and returns when it is closed.
+using ShowDesigner = std::function<void(QWidget* parent, const std::string& typeId)>;
 
 /// What the commands of frmTJJS work on.
 struct OrderChoice {
     Project project;
     std::function<std::vector<WindowEntry>()> windows;  ///< the chosen ones
+    ShowDesigner showDesigner;
 
     /// Of its reports, with the day's date.
     ReportHead Head() const;

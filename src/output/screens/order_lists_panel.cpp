@@ -40,7 +40,7 @@ OrderListsPanel::OrderListsPanel(OrderChoice choice, QWidget* screen)
         return GlassList(App().Main(), record.windows);
     };
     OnSignal(rows, &QPushButton::clicked, screen, [this] {
-        if (const auto record = GatheringOrTell()) frmTJMX(*record, screen_).exec();
+        if (const auto record = GatheringOrTell()) frmTJMX(*record, choice_.showDesigner, screen_).exec();
     });
     OnSignal(buying, &QPushButton::clicked, screen, [=, this] { Preview(makeBuying); });
     OnSignal(saveBuying, &QPushButton::clicked, screen, [=, this] { Save(makeBuying); });
