@@ -74,6 +74,8 @@ TEST_F(TallyFlow, WindowsMoveBetweenTheLists) {
         for (const char* button : {"CmdTJ01", "CmdTJ02", "CmdTJ03", "CmdJS01", "CmdJS02"}) {
             EXPECT_FALSE(IsOn(screen, button)) << button;
         }
+        Press(screen, "CmdGJB");
+        EXPECT_NE(TakeSaid(), "") << "the door's type has no profiles";
         Press(screen, "CmdMX");
         EXPECT_EQ(TakeSaid(), Said("还没有归总。请先选入门窗，再按“统计”中的“归总”。"));
     });

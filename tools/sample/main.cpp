@@ -15,7 +15,6 @@
 #include "optimise/plan.h"
 #include "optimise/plan_file.h"
 #include "optimise/run.h"
-#include "output/screens/FrmEasyGJBReport.h"
 #include "output/order_lists.h"
 #include "output/tally_tables.h"
 #include "platform/settings_store.h"
@@ -373,8 +372,8 @@ void ShowWindChecks(MDIMain& frame) {
     });
 }
 
-/// The sheets of all windows, and the short table of them.
-void ShowSheetsAndShortTable(QWidget* windows) {
+/// The sheets of all windows.
+void ShowSheets(QWidget* windows) {
     WhenShown("FrmGJB", [](QWidget* sheet) {
         TakePicture(sheet, "FrmGJB");
         SavePdf(sheet, "CmdPrintAll", "sheets");
@@ -384,12 +383,6 @@ void ShowSheetsAndShortTable(QWidget* windows) {
     });
     Control<ReportList>(windows, "Lvw")->SelectRow(1);
     Press(windows, "CmdPrint");
-    WhenShown("FrmEasyGJBReport", [](QWidget* report) {
-        TakePicture(report, "FrmEasyGJBReport");
-        SavePdf(report, "Command1", "short-table");
-        Press(report, "CmdExit");
-    });
-    ShowShortTable(ListWindows(App().Main(), App().currentProjectId), kProject, windows);
 }
 
 void SaveTable(const FileTable& table, const std::string& name) {
@@ -402,7 +395,7 @@ void SaveOutput(OutputView view, const std::string& name) {
     SaveTable(*LoadOutput(App().Main(), view), name);
 }
 
-/// Material, prices and settlement of the whole order, each as PDF, text and workbook.
+/// Material, prices and settlement of the whole order, each as PDF, text and workbook, and the short table.
 void ShowTotals(QWidget* windows) {
     WhenShown("frmTJJS", [](QWidget* totals) {
         Press(totals, "CmdSelectAll");
@@ -444,6 +437,12 @@ void ShowTotals(QWidget* windows) {
             Leave(rows);
         });
         Press(totals, "CmdMX");
+        WhenShown("FrmEasyGJBReport", [](QWidget* report) {
+            TakePicture(report, "FrmEasyGJBReport");
+            SavePdf(report, "Command1", "short-table");
+            Press(report, "CmdExit");
+        });
+        Press(totals, "CmdGJB");
         TakePicture(totals, "frmTJJS");
         Leave(totals);
     });
@@ -492,7 +491,7 @@ void Run() {
     RunOptimisation(App().Main(), App().optimise, 1, ListMaterials(App().Main()), notice, {});
     SavePlan("plan-scheme-2");
     SaveWindowPictures();
-    ShowSheetsAndShortTable(windows);
+    ShowSheets(windows);
     ShowTotals(windows);
     ShowManualList(frame);
     ShowWindChecks(frame);

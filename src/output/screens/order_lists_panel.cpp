@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "output/order_lists.h"
+#include "output/screens/FrmEasyGJBReport.h"
 #include "output/screens/frmTJMX.h"
 #include "output/screens/tally_files.h"
 #include "session/app_state.h"
@@ -25,7 +26,6 @@ OrderListsPanel::OrderListsPanel(OrderChoice choice, QWidget* screen)
         MakeButton("CmdBLD", QStringLiteral("玻璃单"), this, QStringLiteral("各种尺寸的块数和所用的门窗"));
     QPushButton* saveGlass = MakeButton("CmdOutBLD", QStringLiteral("输出>"), this);
     QPushButton* shortTable = MakeButton("CmdGJB", QStringLiteral("构件简表"), this);
-    MarkAsComing(shortTable);
     auto* grid = new QGridLayout(this);
     grid->addWidget(rows, 0, 0, 1, 2);
     grid->addWidget(buying, 1, 0);
@@ -45,6 +45,8 @@ OrderListsPanel::OrderListsPanel(OrderChoice choice, QWidget* screen)
     OnSignal(buying, &QPushButton::clicked, screen, [=, this] { Preview(makeBuying); });
     OnSignal(saveBuying, &QPushButton::clicked, screen, [=, this] { Save(makeBuying); });
     OnSignal(glass, &QPushButton::clicked, screen, [=, this] { Preview(makeGlass); });
+    OnSignal(shortTable, &QPushButton::clicked, screen,
+             [this] { ShowShortTable(choice_.windows(), choice_.project.name, screen_); });
     OnSignal(saveGlass, &QPushButton::clicked, screen, [=, this] { Save(makeGlass); });
 }
 
