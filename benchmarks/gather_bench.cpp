@@ -8,6 +8,7 @@
 #include "peak_memory.h"
 #include "scratch_store.h"
 #include "store/command_scope.h"
+#include "window_rows.h"
 
 namespace kalvane {
 namespace {
@@ -29,17 +30,7 @@ void FillProject(Connection& connection) {
                                    "')");
             }
         }
-        for (int window = 1; window <= kWindows; ++window) {
-            const std::string id = std::to_string(window);
-            connection.Execute(
-                "Insert into 工程门窗 (工程编号,门窗编号,编号,门窗名称,门窗类型,洞口宽,洞口高,樘数,说明)"
-                " values(1," +
-                std::to_string(window % kTypes + 1) + "," + id + ",'C" + id + "','客厅',1500,1800,3,'')");
-            for (const char* label : {"B", "H", "B1", "H1", "H2"}) {
-                connection.Execute("Insert into 标注 (px,py,schar,Mcnum,MC) values(0,0,'" +
-                                   std::to_string(600 + window) + "'," + id + ",'" + label + "')");
-            }
-        }
+        bench::AddWindows(connection, kWindows, kTypes);
     });
 }
 
