@@ -35,6 +35,7 @@ void AskFees(QWidget* parent) {
     for (const QString& caption : captions) boxes.push_back(NumberBox(boxes.size(), caption));
     EntryForm form(QStringLiteral("frmSZZJ"), QStringLiteral("门窗造价设置表"), boxes, SharedFieldSlots(),
                    parent);
+    form.Fill(QStringList(captions.size()));  // the first box takes the focus
     if (form.Run()) return;
     for (const EntryBox& box : boxes) SharedFieldSlots()[box.slot] = "0";
 }
@@ -45,6 +46,7 @@ bool AskSettlementPrices(QWidget* parent, std::span<const WindowEntry> windows) 
                    SharedFieldSlots(), parent);
     form.AddNote(QStringLiteral("名称中有“门”字的按门计价：") + Names(windows, true));
     form.AddNote(QStringLiteral("其余的按窗计价：") + Names(windows, false));
+    form.Fill({QString(), QString()});  // the first box takes the focus
     return form.Run();
 }
 
