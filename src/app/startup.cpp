@@ -7,6 +7,7 @@
 #include "backup/restore.h"
 #include "numeric/error.h"
 #include "platform/files.h"
+#include "project/member_rows.h"
 #include "store/dated_copies.h"
 #include "store/migration.h"
 #include "store/store_files.h"
@@ -104,6 +105,7 @@ void OpenMainStore(AppState& state, Notice& notice) {
     try {
         MigrateStore(state.folder / kTemplateStoreName, StoreKind::Main, notice);
         OfferToUndoCutRestore(*state.mainConnection, notice);
+        if (IsWritableFolder(state.folder)) DropMembersUnderEdit(*state.mainConnection);
     } catch (const Error& error) {
         notice.Show(error.what(), kErrorTitle, NoticeIcon::Error);
     }

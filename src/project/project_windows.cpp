@@ -38,16 +38,20 @@ std::vector<LabelRow> LoadLabels(Connection& connection, std::string_view window
     return labels;
 }
 
+void InsertWindowRow(Connection& connection, const WindowEntry& window) {
+    connection.Execute(
+        "Insert into 工程门窗 (工程编号,门窗编号,编号,门窗名称,门窗类型,洞口宽,洞口高,樘数,说明) Values(" +
+        window.projectNumber + "," + window.typeNumber + "," + window.number + ",'" + window.name + "','" +
+        window.position + "'," + window.width + "," + window.height + "," + window.count + ",'" +
+        window.note + "')");
+}
+
 std::string AddWindow(Connection& connection, const WindowEntry& window, std::span<const LabelRow> labels) {
     std::string number;
     InCommand(connection, [&] {
-        number = GetNextId(connection, "工程门窗");
-        connection.Execute(
-            "Insert into 工程门窗 (工程编号,门窗编号,编号,门窗名称,门窗类型,洞口宽,洞口高,樘数,说明) "
-            "Values(" +
-            window.projectNumber + "," + window.typeNumber + "," + number + ",'" + window.name + "','" +
-            window.position + "'," + window.width + "," + window.height + "," + window.count + ",'" +
-            window.note + "')");
+        WindowEntry added = window;
+        added.number = number = GetNextId(connection, "工程门窗");
+        InsertWindowRow(connection, added);
         InsertLabels(connection, number, labels);
     });
     return number;

@@ -34,6 +34,9 @@ std::vector<WindowEntry> ListWindows(Connection& connection, std::string_view pr
 /// The labels that were saved with a window.
 std::vector<LabelRow> LoadLabels(Connection& connection, std::string_view windowNumber);
 
+/// Writes the row of a window as it stands, under its own number; for a caller that has a command open.
+void InsertWindowRow(Connection& connection, const WindowEntry& window);
+
 /// Adds a window with its labels under the next number and returns that number; `window.number` is
 /// ignored. A label's name of more than five characters is refused, after the window was written.
 std::string AddWindow(Connection& connection, const WindowEntry& window, std::span<const LabelRow> labels);

@@ -26,14 +26,14 @@ constexpr int kNumberColumn = 1;
 frmOpenPicture::frmOpenPicture(QWidget* parent)
     : Screen(QStringLiteral("frmOpenPicture"), QStringLiteral("打开门窗图"), parent),
       lvw_(new ReportList(QStringLiteral("lvw"), {QStringLiteral("图名"), QStringLiteral("编号")}, this)),
+      del_(MakeButton("CmdDel", QStringLiteral("删除"), this, QStringLiteral("Delete"))),
       txtCBN_(MakeBox(QStringLiteral("txtCBN"), this)),
       picture_(new DrawingBox(QStringLiteral("PicMC"), this)) {
     txtCBN_->setReadOnly(true);
     lvw_->setMinimumWidth(kListWidth);
     QPushButton* ok = MakeButton("OKButton", QStringLiteral("确定"), this, QStringLiteral("Enter 或双击"));
     ok->setDefault(true);
-    QPushButton* del = MakeButton("CmdDel", QStringLiteral("删除"), this, QStringLiteral("Delete"));
-    del->setAutoDefault(false);
+    del_->setAutoDefault(false);
     QPushButton* cancel = MakeButton("CancelButton", QStringLiteral("取消"), this, QStringLiteral("Esc"));
     cancel->setAutoDefault(false);
 
@@ -47,16 +47,20 @@ frmOpenPicture::frmOpenPicture(QWidget* parent)
     body->addLayout(shown, 1);
     auto* rows = new QVBoxLayout(this);
     rows->addLayout(body, 1);
-    rows->addLayout(ButtonRow({ok, del, cancel}));
+    rows->addLayout(ButtonRow({ok, del_, cancel}));
     resize(kFirstSize);
 
-    PressOnKeys(lvw_, Qt::Key_Delete, del);
+    PressOnKeys(lvw_, Qt::Key_Delete, del_);
     OnSignal(lvw_, &ReportList::itemSelectionChanged, this, [this] { ShowSelected(); });
     OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Confirm(); });
     OnSignal(ok, &QPushButton::clicked, this, [this] { Confirm(); });
-    OnSignal(del, &QPushButton::clicked, this, [this] { Delete(); });
+    OnSignal(del_, &QPushButton::clicked, this, [this] { Delete(); });
     OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
     Guarded(this, [this] { Load(); });
+}
+
+void frmOpenPicture::ForbidDelete() {
+    del_->setEnabled(false);
 }
 
 void frmOpenPicture::Load() {

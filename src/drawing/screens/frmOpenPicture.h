@@ -3,6 +3,7 @@
 #include "ui/screen.h"
 
 class QLineEdit;
+class QPushButton;
 
 namespace kalvane {
 
@@ -17,6 +18,9 @@ class frmOpenPicture final : public Screen {
   public:
     explicit frmOpenPicture(QWidget* parent);
 
+    /// For a choice that must not lose the library a drawing.
+    void ForbidDelete();
+
   private:
     void Load();
     /// Shows number and picture of the selected drawing, or that there is none.
@@ -25,6 +29,7 @@ class frmOpenPicture final : public Screen {
     void Delete();
 
     ReportList* lvw_;
+    QPushButton* del_;
     QLineEdit* txtCBN_;
     DrawingBox* picture_;
 };

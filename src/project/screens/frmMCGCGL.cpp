@@ -3,7 +3,11 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "project/copy_windows.h"
+#include "project/screens/frmCopyGC.h"
+#include "project/screens/frmGCHT.h"
 #include "project/screens/frmOpenGC.h"
+#include "project/screens/window_rows.h"
 #include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
@@ -16,25 +20,12 @@ namespace kalvane {
 namespace {
 
 constexpr QSize kFirstSize(900, 520);
-
-QStringList ToRow(const Project& project) {
-    return {ToQt(project.name), ToQt(project.place), ToQt(project.client), ToQt(project.contractNumber),
-            ToQt(project.number)};
-}
-
-Project ToProject(const QStringList& row) {
-    return {FromQt(row[4]), FromQt(row[3]), FromQt(row[0]), FromQt(row[1]), FromQt(row[2])};
-}
-
 }  // namespace
 
 frmMCGCGL::frmMCGCGL(ProjectRoads roads, QWidget* parent)
     : Screen(QStringLiteral("frmMCGCGL"), QStringLiteral("塑钢工程管理"), parent),
       roads_(std::move(roads)),
-      lvw_(new ReportList(QStringLiteral("Lvw"),
-                          {QStringLiteral("工程名称"), QStringLiteral("工程地点"), QStringLiteral("甲方单位"),
-                           QStringLiteral("合同编号"), QStringLiteral("编号")},
-                          this)) {
+      lvw_(new ReportList(QStringLiteral("Lvw"), ProjectColumns(), this)) {
     QPushButton* add = MakeButton("CmdAdd", QStringLiteral("新建工程"), this, QStringLiteral("Insert"));
     QPushButton* edit = MakeButton("CmdEdit", QStringLiteral("编辑工程"), this, QStringLiteral("F2"));
     QPushButton* del = MakeButton("CmdDel", QStringLiteral("删除工程"), this,
@@ -42,14 +33,15 @@ frmMCGCGL::frmMCGCGL(ProjectRoads roads, QWidget* parent)
     QPushButton* open =
         MakeButton("CmdOpen", QStringLiteral("打开工程"), this, QStringLiteral("Enter 或双击"));
     QPushButton* contract = MakeButton("CmdOpenHT", QStringLiteral("打开合同"), this);
-    QPushButton* copy = MakeButton("CmdCopyGCMC", QStringLiteral("复制工程门窗"), this);
+    QPushButton* copy = MakeButton("CmdCopyGCMC", QStringLiteral("复制工程门窗"), this,
+                                   QStringLiteral("把其它工程的门窗复制到选中的工程"));
+    QPushButton* duplicate = MakeButton("CmdCopyGC", QStringLiteral("复制工程"), this,
+                                        QStringLiteral("以新的名称复制整个工程，连同全部门窗"));
     QPushButton* exit = MakeButton("CmdExit", QStringLiteral("退  出"), this, QStringLiteral("Esc"));
-    MarkAsComing(contract);
-    MarkAsComing(copy);
     open->setDefault(true);
 
-    lvw_->OfferInMenu({open, add, edit, del});
-    LayOutBesideButtons(this, lvw_, {{add, edit, del, open, contract, copy}}, exit);
+    lvw_->OfferInMenu({open, contract, add, edit, del, duplicate});
+    LayOutBesideButtons(this, lvw_, {{add, edit, del, open, contract, copy}, {duplicate}}, exit);
     resize(kFirstSize);
 
     PressOnKeys(lvw_, Qt::Key_Insert, add);
@@ -60,6 +52,9 @@ frmMCGCGL::frmMCGCGL(ProjectRoads roads, QWidget* parent)
     OnSignal(del, &QPushButton::clicked, this, [this] { Delete(); });
     OnSignal(open, &QPushButton::clicked, this, [this] { Open(); });
     OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Open(); });
+    OnSignal(contract, &QPushButton::clicked, this, [this] { OpenContract(); });
+    OnSignal(copy, &QPushButton::clicked, this, [this] { CopyWindowsHere(); });
+    OnSignal(duplicate, &QPushButton::clicked, this, [this] { Duplicate(); });
     OnSignal(exit, &QPushButton::clicked, this, [this] { Leave(); });
     Guarded(this, [this] { Load(); });
 }
@@ -103,6 +98,34 @@ void frmMCGCGL::Delete() {
 void frmMCGCGL::Open() {
     const int row = lvw_->SelectedOrTell(QStringLiteral("无打开的工程！"));
     if (row >= 0) frmOpenGC::Open(ToProject(lvw_->Row(row)), roads_);
+}
+
+void frmMCGCGL::OpenContract() {
+    const int row = lvw_->SelectedOrTell(QStringLiteral("无存在工程无法打开工程合同！"));
+    if (row < 0) return;
+    frmGCHT contract(this);
+    contract.SetProject(ToProject(lvw_->Row(row)));
+    contract.exec();
+}
+
+void frmMCGCGL::CopyWindowsHere() {
+    const int row = lvw_->SelectedOrTell(QStringLiteral("无打开的工程！"));
+    if (row < 0) return;
+    const Project target = ToProject(lvw_->Row(row));
+    frmCopyGC(target, this).exec();
+    if (frmOpenGC* opened = frmOpenGC::OfProject(target.number)) opened->SetProject(target);
+}
+
+void frmMCGCGL::Duplicate() {
+    const int row = lvw_->SelectedOrTell(QStringLiteral("请选择要复制的工程。"));
+    if (row < 0) return;
+    const Project project = ToProject(lvw_->Row(row));
+    const QString offered = ToQt(project.name) + QStringLiteral(" 副本");
+    const std::optional<QString> name =
+        UseDialogs().InputText(this, QStringLiteral("复制工程"), QStringLiteral("新工程的名称："), offered);
+    if (!name) return;
+    if (name->isEmpty()) return Tell(this, QStringLiteral("数据不能为空！"));
+    lvw_->SelectRow(lvw_->AddRow(ToRow(DuplicateProject(App().Main(), project, FromQt(*name)))));
 }
 
 std::optional<Project> frmMCGCGL::Input(const QString& title, Project project,

@@ -24,6 +24,11 @@ class frmMCGCGL : public Screen {
     void Edit();
     void Delete();
     void Open();
+    void OpenContract();
+    /// Copies windows of any project into the selected one.
+    void CopyWindowsHere();
+    /// Copies the selected project with all its windows, under a name that is asked for.
+    void Duplicate();
 
     /// Has a project typed in and saved; nothing when cancelled.
     std::optional<Project> Input(const QString& title, Project project,

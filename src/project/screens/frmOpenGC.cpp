@@ -6,6 +6,8 @@
 #include "formula/composite.h"
 #include "platform/settings_store.h"
 #include "project/screens/frmAddGCMC.h"
+#include "project/screens/frmAddGCZHMC.h"
+#include "project/screens/project_papers.h"
 #include "project/screens/window_rows.h"
 #include "session/app_state.h"
 #include "ui/command_buttons.h"
@@ -38,16 +40,19 @@ frmOpenGC::frmOpenGC(ProjectRoads roads, QWidget* parent)
     QPushButton* optimise =
         MakeButton("cmdYH", QStringLiteral("优化"), this, QStringLiteral("选择本工程的门窗，优化下料"));
     QPushButton* exit = MakeButton("CmdExit", QStringLiteral("退出"), this, QStringLiteral("Esc"));
-    MarkAsComing(composite);
+    QPushButton* list = MakeButton("CmdMCB", QStringLiteral("门窗表"), this,
+                                   QStringLiteral("打印门窗表，带小图，供需方核对签章"));
     edit->setDefault(true);
 
     lvw_->OfferInMenu({edit, add, del});
-    LayOutBesideButtons(this, lvw_, {{add, composite, edit, del}, {number, sheets, totals, optimise}}, exit);
+    LayOutBesideButtons(this, lvw_, {{add, composite, edit, del}, {number, sheets, totals, optimise}, {list}},
+                        exit);
     resize(kFirstSize);
 
     PressOnKeys(lvw_, Qt::Key_Insert, add);
     PressOnKeys(lvw_, Qt::Key_Delete, del);
     OnSignal(add, &QPushButton::clicked, this, [this] { Add(); });
+    OnSignal(composite, &QPushButton::clicked, this, [this] { AddComposite(); });
     OnSignal(edit, &QPushButton::clicked, this, [this] { Edit(); });
     OnSignal(lvw_, &ReportList::itemDoubleClicked, this, [this] { Edit(); });
     OnSignal(del, &QPushButton::clicked, this, [this] { Delete(); });
@@ -55,6 +60,7 @@ frmOpenGC::frmOpenGC(ProjectRoads roads, QWidget* parent)
     OnSignal(sheets, &QPushButton::clicked, this, [this] { ShowSheets(); });
     OnSignal(optimise, &QPushButton::clicked, this, [this] { Optimise(); });
     OnSignal(totals, &QPushButton::clicked, this, [this] { ShowTotals(); });
+    OnSignal(list, &QPushButton::clicked, this, [this] { PrintList(); });
     OnSignal(exit, &QPushButton::clicked, this, [this] { Leave(); });
 }
 
@@ -116,13 +122,41 @@ void frmOpenGC::Edit() {
     const int row = lvw_->SelectedOrTell(QStringLiteral("无选取所要编辑的门窗！"));
     if (row < 0) return;
     const WindowEntry window = ToWindow(lvw_->Row(row));
-    if (OpensAsComposite(window.typeNumber)) {
-        Tell(this, QStringLiteral("组合门窗的编辑将在后续版本中提供。"));
-        return;
-    }
+    if (OpensAsComposite(window.typeNumber)) return EditComposite(window);
     frmAddGCMC screen(this);
     screen.StartEditing(window);
     RunWindowScreen(screen);
+}
+
+void frmOpenGC::AddComposite() {
+    frmAddGCZHMC screen(this);
+    screen.StartAdding(project_.number);
+    RunCompositeScreen(screen);
+}
+
+void frmOpenGC::EditComposite(const WindowEntry& window) {
+    frmAddGCZHMC screen(this);
+    screen.StartEditing(window);
+    RunCompositeScreen(screen);
+}
+
+void frmOpenGC::RunCompositeScreen(frmAddGCZHMC& screen) {
+    connect(&screen, &frmAddGCZHMC::WindowSaved, this, [this](const QStringList& saved) {
+        // An edited one goes to the end of the list, until that is filled anew.
+        for (int row = lvw_->RowCount() - 1; row >= 0; --row) {
+            if (lvw_->Text(row, kNumberColumn) == saved[kNumberColumn]) lvw_->RemoveRow(row);
+        }
+        lvw_->SelectRow(lvw_->AddRow(saved));
+    });
+    // The row of one whose save was refused may be gone.
+    if (screen.exec() != QDialog::Accepted) Reload(SelectedNumber());
+}
+
+void frmOpenGC::PrintList() {
+    std::vector<WindowEntry> windows;
+    for (const int row : lvw_->AllRows()) windows.push_back(ToWindow(lvw_->Row(row)));
+    if (windows.empty()) return Tell(this, QStringLiteral("当前工程中没有可打印的门窗！"));
+    PrintWindowList(this, project_, windows);
 }
 
 void frmOpenGC::RunWindowScreen(frmAddGCMC& screen) {

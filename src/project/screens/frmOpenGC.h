@@ -9,6 +9,7 @@ namespace kalvane {
 
 class ReportList;
 class frmAddGCMC;
+class frmAddGCZHMC;
 
 /// The opened project with its windows. One at a time, as there is one current project.
 class frmOpenGC : public Screen {
@@ -29,7 +30,9 @@ class frmOpenGC : public Screen {
     static frmOpenGC* Shown();
 
     void Add();
+    void AddComposite();
     void Edit();
+    void EditComposite(const WindowEntry& window);
     void Delete();
     void AskStartNumber();
     void ShowSheets();
@@ -37,6 +40,10 @@ class frmOpenGC : public Screen {
     void ShowTotals();
     /// Runs the screen of one window, and lists the windows anew after every change it makes.
     void RunWindowScreen(frmAddGCMC& screen);
+    /// Runs the screen of a composite; each that it saves becomes the last row.
+    void RunCompositeScreen(frmAddGCZHMC& screen);
+    /// Prints the windows in the order they are shown in.
+    void PrintList();
     /// Lists the windows as they are in the store and selects the one of that number, if it is there.
     void Reload(const QString& selected);
     QString SelectedNumber() const;

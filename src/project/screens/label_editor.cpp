@@ -21,13 +21,14 @@ constexpr int kNameColumn = 0;
 constexpr int kValueColumn = 1;
 }  // namespace
 
-LabelEditor::LabelEditor(DrawingBox* picture, QWidget* parent)
+LabelEditor::LabelEditor(DrawingBox* picture, QWidget* parent, QString caption)
     : QWidget(parent),
       picture_(picture),
+      caption_(std::move(caption)),
       lvwBZ_(new ReportList(
           QStringLiteral("LvwBZ"),
           {QStringLiteral("标注"), QStringLiteral("数值"), QStringLiteral("X"), QStringLiteral("Y")}, this)),
-      lblBZ_(new QLabel(this)),
+      lblBZ_(new QLabel(caption_, this)),
       txtBZ_(MakeBox(QStringLiteral("TxtBZ"), this)),
       change_(MakeButton("CmdChange", QStringLiteral("更改标注 &B"), this)) {
     lvwBZ_->KeepOrder();
@@ -58,7 +59,7 @@ void LabelEditor::Show(const std::vector<LabelRow>& labels) {
         rows << QStringList{ToQt(label.name), ToQt(label.value), ToQt(label.x), ToQt(label.y)};
     }
     lvwBZ_->AddRows(rows);
-    lblBZ_->clear();
+    lblBZ_->setText(caption_);
     txtBZ_->clear();
     change_->setEnabled(false);
     Repaint();

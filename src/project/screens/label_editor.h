@@ -22,8 +22,8 @@ class LabelEditor : public QWidget {
     Q_OBJECT
 
   public:
-    /// `picture` must outlive the editor.
-    LabelEditor(DrawingBox* picture, QWidget* parent);
+    /// `picture` must outlive the editor. `caption` is what stands in LblBZ while no label is taken up.
+    LabelEditor(DrawingBox* picture, QWidget* parent, QString caption = {});
 
     void Show(const std::vector<LabelRow>& labels);
     std::vector<LabelRow> Labels() const;
@@ -54,6 +54,7 @@ class LabelEditor : public QWidget {
     void Repaint();
 
     DrawingBox* picture_;
+    const QString caption_;
     ReportList* lvwBZ_;
     QLabel* lblBZ_;
     QLineEdit* txtBZ_;
