@@ -132,6 +132,12 @@ TEST(StarterLibrary, EveryWindowTypeClosesAndIsGlazedWithinItsOpening) {
     }
 }
 
+/// The drawing of a window of the sample: its type's, or a composite's main drawing.
+std::string DrawingOf(const std::string& typeNumber) {
+    if (typeNumber.starts_with("-")) return typeNumber.substr(1);
+    return Select("图号 from 门窗 where 编号=" + typeNumber)[0][0];
+}
+
 double Span(const std::string& from, const std::string& to) {
     return std::abs(std::stod(to) - std::stod(from));
 }
@@ -141,7 +147,7 @@ double Span(const std::string& from, const std::string& to) {
 TEST(StarterLibrary, DrawingsAreTrueToScaleAndShowThePanelsThatAreCut) {
     for (const Row& window : Select("编号,门窗编号,洞口宽,门窗名称 from 工程门窗")) {
         SCOPED_TRACE(window[3]);
-        const std::string ofDrawing = " where Bn=" + Select("图号 from 门窗 where 编号=" + window[1])[0][0];
+        const std::string ofDrawing = " where Bn=" + DrawingOf(window[1]);
         const LabelSet labels = LoadPlainLabels(Store(), window[0]);
         std::vector<double> values;
         for (const std::string& value : labels.values) values.push_back(std::stod(value));
@@ -186,12 +192,12 @@ TEST(StarterLibrary, SampleProjectIsComplete) {
     EXPECT_GE(windows.size(), 12U);
     for (const Row& window : windows) {
         SCOPED_TRACE(window[4]);
-        const auto type = Select("图号,名称 from 门窗 where 编号=" + window[1]);
-        ASSERT_EQ(type.size(), 1U);
+        const std::string drawing = DrawingOf(window[1]);
+        const std::string drawingName = Select("图名 from 图 where 编号=" + drawing)[0][0];
         const auto namesADoor = [](const std::string& name) { return name.find("门") != std::string::npos; };
-        EXPECT_EQ(namesADoor(window[4]), namesADoor(type[0][1])) << "the settlement prices by the name";
+        EXPECT_EQ(namesADoor(window[4]), namesADoor(drawingName)) << "the settlement prices by the name";
         const std::vector<Row> labels = Select("MC,px,py,schar from 标注 where Mcnum=" + window[0]);
-        const std::vector<Row> drawn = Select("Chars,X1,Y1 from Strings where Bn=" + type[0][0]);
+        const std::vector<Row> drawn = Select("Chars,X1,Y1 from Strings where Bn=" + drawing);
         ASSERT_EQ(labels.size(), drawn.size());
         std::map<std::string, std::string> values;
         for (std::size_t i = 0; i < drawn.size(); ++i) {
@@ -200,6 +206,25 @@ TEST(StarterLibrary, SampleProjectIsComplete) {
         }
         EXPECT_EQ(values["B"], window[2]);
         EXPECT_EQ(values["H"], window[3]);
+    }
+}
+
+TEST(StarterLibrary, MembersOfCompositesFillThem) {
+    const std::vector<Row> composites = Select("编号,洞口宽,樘数,门窗名称 from 工程门窗 where 门窗编号<0");
+    EXPECT_EQ(composites.size(), 3U);
+    for (const Row& composite : composites) {
+        SCOPED_TRACE(composite[3]);
+        EXPECT_GT(std::stoi(composite[2]), 1);
+        double width = 0;
+        for (const Row& member :
+             Select("CBN,CMC from 标注2 where MCBN=" + composite[0] + " Group by CBN,CMC")) {
+            const std::string rows = " from 标注2 where MCBN=" + composite[0] + " and CMC='" + member[1] + "'";
+            EXPECT_EQ(Select("MC,px,py" + rows),
+                      Select("Chars,X1,Y1 from Strings where Bn=" + DrawingOf(member[0])));
+            const Row wide = Select("MCZ,Count" + rows + " and MC='B'")[0];
+            width += std::stod(wide[0]) * std::stod(wide[1]);
+        }
+        EXPECT_EQ(width, std::stod(composite[1]));
     }
 }
 
