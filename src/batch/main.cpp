@@ -4,6 +4,7 @@
 #include "batch/check_command.h"
 #include "batch/commands.h"
 #include "batch/formula_commands.h"
+#include "batch/project_commands.h"
 #include "batch/sheet_commands.h"
 #include "batch/stock_commands.h"
 #include "batch/tally_commands.h"
@@ -42,11 +43,12 @@ std::vector<std::string> Arguments(int argc, char* argv[]) {
 
 int Run(int argc, char* argv[]) {
     CLI::App application(
-        "Kalvane without a screen: formulas, bills of material, cutting plans, material and settlement, "
-        "component sheets, wind-pressure checks and the warehouse",
+        "Kalvane without a screen: formulas, bills of material, cutting plans, windows and contracts, material "
+        "and settlement, component sheets, wind-pressure checks and the warehouse",
         "kalvane-batch");
     application.require_subcommand(1);
     const WindCommands wind(application);
+    const ProjectCommands windows(application);
     const StockCommands stock(application);
     const CheckCommand check(application);
     const FormulaCommands formulas(application);

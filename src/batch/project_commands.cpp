@@ -4,19 +4,17 @@
 #include <QGuiApplication>
 #include <iostream>
 
-#include "batch/commands.h"
 #include "batch/locked_store.h"
+#include "batch/project_choice.h"
 #include "numeric/error.h"
 #include "page/paint_report.h"
 #include "project/contract.h"
 #include "project/project_windows.h"
-#include "ui/page_document.h"
+#include "ui/report_sheet.h"
 #include "ui/text.h"
 
 namespace kalvane {
 namespace {
-
-constexpr PageSetup kPaper{QPageSize::A4, QPageLayout::Portrait, {15, 15, 15, 12}};
 
 /// Writes a report as PDF; no window is shown.
 void WritePdf(const Report& report, const std::string& title, const std::string& file) {
@@ -25,7 +23,9 @@ void WritePdf(const Report& report, const std::string& title, const std::string&
     std::string name = "kalvane-batch";
     char* argv[] = {name.data(), nullptr};
     const QGuiApplication application(argc, argv);
-    PageDocument(ToQt(title), kPaper, [&](PageTarget& page) { PaintReport(page, report); }).WritePdf(file);
+    PageDocument(ToQt(title), kReportSheet, [&](PageTarget& page) {
+        PaintReport(page, report);
+    }).WritePdf(file);
 }
 
 }  // namespace

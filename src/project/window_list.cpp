@@ -88,12 +88,9 @@ class ListPainter {
         const float room = page_.Height() - kTitleHeight - kFootHeight;
         const auto rowsOnPage = std::max<std::size_t>(1, static_cast<std::size_t>(room / cellHeight_));
         const std::size_t rows = (list_.cells.size() + kCellsInRow - 1) / kCellsInRow;
-        const bool signsOnLast =
-            static_cast<float>(rows - (rows == 0 ? 0 : (rows - 1) / rowsOnPage * rowsOnPage)) * cellHeight_ +
-                kSignatureHeight <=
-            room;
-        const std::size_t tablePages = std::max<std::size_t>(1, (rows + rowsOnPage - 1) / rowsOnPage);
-        const std::size_t pages = tablePages + (signsOnLast ? 0 : 1);
+        const std::size_t fullPages = rows == 0 ? 0 : (rows - 1) / rowsOnPage;
+        const float left = room - static_cast<float>(rows - fullPages * rowsOnPage) * cellHeight_;
+        const std::size_t pages = fullPages + (left >= kSignatureHeight ? 1 : 2);
         for (std::size_t number = 1; number <= pages; ++number) {
             if (number > 1) page_.NewPage();
             PaintHeadAndFoot(number, pages);

@@ -218,7 +218,8 @@ TEST(StarterLibrary, MembersOfCompositesFillThem) {
         double width = 0;
         for (const Row& member :
              Select("CBN,CMC from 标注2 where MCBN=" + composite[0] + " Group by CBN,CMC")) {
-            const std::string rows = " from 标注2 where MCBN=" + composite[0] + " and CMC='" + member[1] + "'";
+            const std::string rows =
+                " from 标注2 where MCBN=" + composite[0] + " and CMC='" + member[1] + "'";
             EXPECT_EQ(Select("MC,px,py" + rows),
                       Select("Chars,X1,Y1 from Strings where Bn=" + DrawingOf(member[0])));
             const Row wide = Select("MCZ,Count" + rows + " and MC='B'")[0];

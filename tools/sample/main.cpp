@@ -8,7 +8,6 @@
 #include "app/screens/frmLogin.h"
 #include "app/store_setup.h"
 #include "design/formula_export.h"
-#include "design/window_type_tree.h"
 #include "drawing/mcpicture.h"
 #include "drawing/screens/window_picture.h"
 #include "numeric/error.h"
@@ -20,6 +19,7 @@
 #include "platform/settings_store.h"
 #include "project/project_list.h"
 #include "project/project_windows.h"
+#include "project/window_list.h"
 #include "session/app_state.h"
 #include "ui/application.h"
 #include "ui/dialogs.h"
@@ -130,6 +130,38 @@ void LogIn() {
     if (!App().loginOK) throw Error("登录没有成功。");
 }
 
+/// Presses a print command and saves what the preview shows.
+void SavePdf(QWidget* screen, const char* command, const std::string& name) {
+    WhenShown("frmPreview", [name](QWidget* preview) {
+        pdfFile = ToQt((out / (name + ".pdf")).string());
+        Press(preview, "CmdPdf");
+        TakePicture(preview, "preview-" + ToQt(name));
+        preview->close();
+    });
+    Press(screen, command);
+}
+
+/// The contract on the screen and on paper, alone and with the list of windows behind it.
+void ShowContract(QWidget* projects) {
+    WhenShown("frmGCHT", [](QWidget* screen) {
+        TakePicture(screen, "frmGCHT");
+        SavePdf(screen, "CmdPrint", "contract");
+        SavePdf(screen, "CmdPrintAll", "contract-and-windows");
+        Leave(screen);
+    });
+    Press(projects, "CmdOpenHT");
+}
+
+void ShowCopies(QWidget* projects) {
+    WhenShown("frmCopyGC", [](QWidget* screen) {
+        Control<ReportList>(screen, "Lvw2")->SelectRow(0);
+        Press(screen, "CmdSelect");
+        TakePicture(screen, "frmCopyGC");
+        Leave(screen);
+    });
+    Press(projects, "CmdCopyGCMC");
+}
+
 /// From the main screen to the opened sample project.
 QWidget* OpenSample(MDIMain& frame) {
     frame.findChild<QAction*>("mnuProject")->trigger();
@@ -138,6 +170,8 @@ QWidget* OpenSample(MDIMain& frame) {
     for (int row = 0; row < list->RowCount(); ++row) {
         if (list->Text(row, 0) == kProject) list->SelectRow(row);
     }
+    ShowContract(projects);
+    ShowCopies(projects);
     Press(projects, "CmdOpen");
     TakePicture(&frame, "MDIMain");
     QWidget* windows = Shown("frmOpenGC");
@@ -169,15 +203,20 @@ void ShowNewWindow(QWidget* windows) {
     Press(windows, "CmdAdd");
 }
 
-/// Presses a print command and saves what the preview shows.
-void SavePdf(QWidget* screen, const char* command, const std::string& name) {
-    WhenShown("frmPreview", [name](QWidget* preview) {
-        pdfFile = ToQt((out / (name + ".pdf")).string());
-        Press(preview, "CmdPdf");
-        TakePicture(preview, "preview-" + ToQt(name));
-        preview->close();
+/// The bay window of the sample, with one of its members.
+void ShowComposite(QWidget* windows) {
+    auto* list = Control<ReportList>(windows, "Lvw");
+    list->SelectRow(list->RowCount() - 2);
+    WhenShown("frmAddGCZHMC", [](QWidget* screen) {
+        auto* members = Control<QTreeWidget>(screen, "Tvw1");
+        members->setCurrentItem(members->topLevelItem(0));
+        TakePicture(screen, "frmAddGCZHMC");
+        members->setCurrentItem(members->topLevelItem(1));
+        TakePicture(screen, "frmAddGCZHMC-member");
+        Leave(screen);
     });
-    Press(screen, command);
+    Press(windows, "CmdEdit");
+    list->SelectRow(0);
 }
 
 /// The wizard from its second step to the plan of the first scheme.
@@ -460,8 +499,7 @@ void SaveWindowPictures() {
     MessageNotice notice(nullptr);
     for (const WindowEntry& window : ListWindows(App().Main(), App().currentProjectId)) {
         MCPicture picture(notice);
-        picture.OpenFileEX(App().Main(),
-                           DrawingOfWindowType(App().Main(), window.typeNumber, SharedFieldSlots()));
+        picture.OpenFileEX(App().Main(), DrawingOfWindow(App().Main(), window));
         const std::vector<WindowLabel> labels = PaintedLabels(LoadLabels(App().Main(), window.number));
         const std::string file = "window-" + window.number + "-" + window.name + ".png";
         WindowPictureImage(picture, labels, QSize(950, 794)).save(ToQt((out / file).string()));
@@ -485,6 +523,8 @@ void Run() {
     ShowDesigner(frame);
     QWidget* windows = OpenSample(frame);
     ShowNewWindow(windows);
+    ShowComposite(windows);
+    SavePdf(windows, "CmdMCB", "window-list");
     RunWizard(windows);
     SavePlan("plan-scheme-1");
     MessageNotice notice(&frame);

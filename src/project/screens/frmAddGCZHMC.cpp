@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "numeric/error.h"
 #include "numeric/number.h"
 #include "project/composite_windows.h"
 #include "project/screens/label_editor.h"

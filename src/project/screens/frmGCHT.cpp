@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "numeric/error.h"
 #include "project/screens/project_papers.h"
 #include "session/app_state.h"
 #include "ui/command_buttons.h"

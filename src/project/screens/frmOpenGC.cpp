@@ -5,6 +5,7 @@
 
 #include "formula/composite.h"
 #include "platform/settings_store.h"
+#include "project/screens/filtered_windows.h"
 #include "project/screens/frmAddGCMC.h"
 #include "project/screens/frmAddGCZHMC.h"
 #include "project/screens/project_papers.h"
@@ -28,7 +29,8 @@ constexpr std::string_view kStartNumberKey = "AUTONUM";
 frmOpenGC::frmOpenGC(ProjectRoads roads, QWidget* parent)
     : Screen(kScreenName, QStringLiteral("工程名称->"), parent),
       roads_(std::move(roads)),
-      lvw_(new ReportList(QStringLiteral("Lvw"), WindowColumns(), this)) {
+      lvw_(new ReportList(QStringLiteral("Lvw"), WindowColumns(), this)),
+      windows_(new FilteredWindows(lvw_, this)) {
     QPushButton* add = MakeButton("CmdAdd", QStringLiteral("添加门窗"), this, QStringLiteral("Insert"));
     QPushButton* composite = MakeButton("CmcZHMC", QStringLiteral("添加组合门窗"), this);
     QPushButton* edit =
@@ -45,8 +47,8 @@ frmOpenGC::frmOpenGC(ProjectRoads roads, QWidget* parent)
     edit->setDefault(true);
 
     lvw_->OfferInMenu({edit, add, del});
-    LayOutBesideButtons(this, lvw_, {{add, composite, edit, del}, {number, sheets, totals, optimise}, {list}},
-                        exit);
+    LayOutBesideButtons(this, windows_,
+                        {{add, composite, edit, del}, {number, sheets, totals, optimise}, {list}}, exit);
     resize(kFirstSize);
 
     PressOnKeys(lvw_, Qt::Key_Insert, add);
@@ -154,7 +156,7 @@ void frmOpenGC::RunCompositeScreen(frmAddGCZHMC& screen) {
 
 void frmOpenGC::PrintList() {
     std::vector<WindowEntry> windows;
-    for (const int row : lvw_->AllRows()) windows.push_back(ToWindow(lvw_->Row(row)));
+    for (const int row : windows_->ShownRows()) windows.push_back(ToWindow(lvw_->Row(row)));
     if (windows.empty()) return Tell(this, QStringLiteral("当前工程中没有可打印的门窗！"));
     PrintWindowList(this, project_, windows);
 }

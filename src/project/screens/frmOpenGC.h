@@ -7,6 +7,7 @@
 
 namespace kalvane {
 
+class FilteredWindows;
 class ReportList;
 class frmAddGCMC;
 class frmAddGCZHMC;
@@ -42,7 +43,7 @@ class frmOpenGC : public Screen {
     void RunWindowScreen(frmAddGCMC& screen);
     /// Runs the screen of a composite; each that it saves becomes the last row.
     void RunCompositeScreen(frmAddGCZHMC& screen);
-    /// Prints the windows in the order they are shown in.
+    /// Prints the windows that are shown, in their order.
     void PrintList();
     /// Lists the windows as they are in the store and selects the one of that number, if it is there.
     void Reload(const QString& selected);
@@ -50,6 +51,7 @@ class frmOpenGC : public Screen {
 
     const ProjectRoads roads_;
     ReportList* lvw_;
+    FilteredWindows* windows_;
     Project project_;
 };
 

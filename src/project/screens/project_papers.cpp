@@ -6,24 +6,21 @@
 #include "session/app_state.h"
 #include "ui/message_notice.h"
 #include "ui/page_output.h"
+#include "ui/report_sheet.h"
 #include "ui/text.h"
 
 namespace kalvane {
 
-PageSetup PaperSetup() {
-    return {QPageSize::A4, QPageLayout::Portrait, {15, 15, 15, 12}};
-}
-
 void PrintContract(QWidget* parent, const Project& project) {
     const Report contract = ContractReport(App().Main(), project.number);
-    PrintDocument(parent, QStringLiteral("工程合同 ") + ToQt(project.name), PaperSetup(),
+    PrintDocument(parent, QStringLiteral("工程合同 ") + ToQt(project.name), kReportSheet,
                   [&](PageTarget& page) { PaintReport(page, contract); });
 }
 
 void PrintWindowList(QWidget* parent, const Project& project, std::span<const WindowEntry> windows) {
     const WindowList list = MakeWindowList(App().Main(), project.name, windows);
     MessageNotice notice(parent);
-    PrintDocument(parent, QStringLiteral("门窗表 ") + ToQt(project.name), PaperSetup(),
+    PrintDocument(parent, QStringLiteral("门窗表 ") + ToQt(project.name), kReportSheet,
                   [&](PageTarget& page) { PaintWindowList(page, App().Main(), list, notice); });
 }
 
@@ -32,7 +29,7 @@ void PrintContractAndWindows(QWidget* parent, const Project& project) {
     const WindowList list =
         MakeWindowList(App().Main(), project.name, ListWindows(App().Main(), project.number));
     MessageNotice notice(parent);
-    PrintDocument(parent, QStringLiteral("合同及门窗表 ") + ToQt(project.name), PaperSetup(),
+    PrintDocument(parent, QStringLiteral("合同及门窗表 ") + ToQt(project.name), kReportSheet,
                   [&](PageTarget& page) {
                       PaintReport(page, contract);
                       PaintWindowList(page, App().Main(), list, notice);

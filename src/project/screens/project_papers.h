@@ -4,7 +4,6 @@
 
 #include "project/project_list.h"
 #include "project/project_windows.h"
-#include "ui/page_document.h"
 
 class QWidget;
 
@@ -12,9 +11,6 @@ namespace kalvane {
 
 // What a customer signs. Each comes up in the preview, from where it is printed or saved; what is read for it
 // throws StoreError.
-
-/// The sheet of all of them.
-PageSetup PaperSetup();
 
 /// drGCHT01: the contract as it was saved.
 void PrintContract(QWidget* parent, const Project& project);
