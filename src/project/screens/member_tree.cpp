@@ -29,9 +29,9 @@ QTreeWidgetItem* MemberTree::MainNode() const {
 
 void MemberTree::Remove(QTreeWidgetItem* node) {
     const QSignalBlocker quiet(this);
-    const QTreeWidgetItem* selected = Selected();
+    const bool wasSelected = node == Selected();
     delete node;
-    if (selected != node) return;
+    if (!wasSelected) return;
     setCurrentItem(nullptr);  // not the neighbour, whose labels are not shown
     clearSelection();
 }
