@@ -10,6 +10,7 @@
 #include "app/store_setup.h"
 #include "platform/settings_store.h"
 #include "session/app_state.h"
+#include "store/dated_copies.h"
 #include "ui/application.h"
 #include "ui/guard.h"
 #include "ui/message_notice.h"
@@ -41,9 +42,12 @@ int main(int argc, char* argv[]) {
     if (frmSetup(lock).exec() != QDialog::Accepted) return 0;
 
     run.Set();
+    RemoveUnfinishedFiles(App().folder);
 
     MDIMain frame;
     frame.Load();
     frame.show();
-    return QApplication::exec();
+    const int result = QApplication::exec();
+    if (App().storesAreDoubtful) run.Keep();
+    return result;
 }

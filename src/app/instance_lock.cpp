@@ -11,7 +11,8 @@
 
 namespace kalvane {
 
-InstanceLock::InstanceLock(const std::filesystem::path& folder) : file_(folder / ".kalvane.lock") {}
+InstanceLock::InstanceLock(const std::filesystem::path& folder)
+    : file_(folder / (std::string(kOwnFilePrefix) + "lock")) {}
 
 InstanceLock::~InstanceLock() {
     if (descriptor_ >= 0) ::close(descriptor_);

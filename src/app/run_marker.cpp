@@ -5,7 +5,8 @@
 
 namespace kalvane {
 
-RunMarker::RunMarker(const std::filesystem::path& folder) : file_(folder / ".kalvane.running") {}
+RunMarker::RunMarker(const std::filesystem::path& folder)
+    : file_(folder / (std::string(kOwnFilePrefix) + "running")) {}
 
 RunMarker::~RunMarker() {
     std::error_code ignored;

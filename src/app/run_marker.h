@@ -21,6 +21,9 @@ class RunMarker {
     /// written is no failure: the next start then makes no extra checks.
     void Set();
 
+    /// Has the next start take this run for one that did not end cleanly.
+    void Keep() { isSet_ = false; }
+
   private:
     std::filesystem::path file_;
     bool isSet_ = false;

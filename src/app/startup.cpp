@@ -52,8 +52,8 @@ std::unique_ptr<Connection> OpenOrReplace(const std::filesystem::path& file, Sto
         }
         const std::string question =
             complaint + damage.what() + "\n\n最近的副本是 " + TimeOfCopy(copy) + " 的。要用它代替吗？" +
-            (std::filesystem::exists(file) ? "损坏的文件会另存在文件夹“副本”里。"
-                                           : "要从头开始，请选“否”，把文件夹“副本”移到别处后重新启动。");
+            (FileExists(file) ? "损坏的文件会另存在文件夹“副本”里。"
+                              : "要从头开始，请选“否”，把文件夹“副本”移到别处后重新启动。");
         if (!notice.Confirm(question, kErrorTitle)) return nullptr;
         ReplaceByCopy(file, copy);
         MigrateStore(file, kind, notice);
@@ -72,12 +72,6 @@ std::unique_ptr<Connection> OpenStore(const AppState& state, const char* fileNam
         connection = OpenOrReplace(file, kind, state.checkStores, complaint, notice);
     } catch (const Error& error) {
         notice.Show(complaint + error.what(), kErrorTitle, NoticeIcon::Error);
-    }
-    if (connection == nullptr || !IsWritableFolder(state.folder)) return connection;
-    try {
-        KeepDailyCopy(file);
-    } catch (const Error& error) {
-        notice.Show("‘" + name + "’数据库今天的副本没有保存：" + error.what(), "提示", NoticeIcon::Warning);
     }
     return connection;
 }
@@ -118,7 +112,7 @@ void OpenStockStore(AppState& state, Notice& notice) {
 
 void OpenOwnStore(AppState& state, Notice& notice) {
     // An older program's folder has none, and where nothing can be written it gets none.
-    if (!std::filesystem::exists(state.folder / kOwnStoreName) && !IsWritableFolder(state.folder)) return;
+    if (!FileExists(state.folder / kOwnStoreName) && !IsWritableFolder(state.folder)) return;
     state.ownConnection = OpenStore(state, kOwnStoreName, StoreKind::Own, "附加", notice);
 }
 

@@ -10,9 +10,8 @@ namespace kalvane {
 /// Warns the operator when nothing can be saved in the start-up folder.
 void WarnOfReadOnlyFolder(const AppState& state, Notice& notice);
 
-// Opening a store migrates it to the present layout, checks it after an unclean end, and keeps the copy of
-// the day when the folder can be written to. A damaged or missing one is reported, and its newest dated copy
-// may take its place.
+// Opening a store migrates it to the present layout and checks it after an unclean end. A damaged or missing
+// one is reported, and its newest dated copy that is sound may take its place.
 
 /// Opens the user store for the screen that asks; null after a failure, which is reported.
 std::unique_ptr<Connection> OpenUserStore(const AppState& state, Notice& notice);

@@ -24,7 +24,7 @@ void FillUsers(Connection& users) {
 /// Makes a store under a temporary name, fills it, and only then gives it its own name.
 void CreateWhole(const std::filesystem::path& file, StoreKind kind,
                  const std::function<void(Connection&)>& fill) {
-    if (std::filesystem::exists(file) || IsLost(file)) return;
+    if (FileExists(file) || IsLost(file)) return;
     // Two programs may find the folder empty at the same moment.
     UnfinishedFile unfinished(file);
     CreateStore(unfinished.Path(), kind);
@@ -44,7 +44,7 @@ void CreateMissingStores(const std::filesystem::path& folder) {
     CreateWhole(folder / kTemplateStoreName, StoreKind::Main, {});
     // An older program's folder has none. Where nothing can be written it is looked at without.
     if (IsWritableFolder(folder)) CreateWhole(folder / kOwnStoreName, StoreKind::Own, {});
-    if (!std::filesystem::exists(folder / kHelpFileName)) {
+    if (!FileExists(folder / kHelpFileName)) {
         WriteFileAtomically(folder / kHelpFileName, StarterContent(kHelpFileName));
     }
 }

@@ -5,8 +5,10 @@
 
 #include "numeric/error.h"
 #include "platform/files.h"
+#include "platform/help_text.h"
 #include "platform/unfinished_file.h"
 #include "store/command_scope.h"
+#include "store/dated_copies.h"
 #include "store/store_files.h"
 #include "store/table_writer.h"
 
@@ -36,13 +38,22 @@ void FillBackup(Connection& main, Connection& backup, const TableProgress& progr
     }
 }
 
-void RefuseStores(const std::filesystem::path& target, const std::filesystem::path& folder) {
+/// A store of this folder or any other, and what the program keeps beside the stores.
+void RefuseOwnFiles(const std::filesystem::path& target, const std::filesystem::path& folder) {
+    const std::string targetName = target.filename().string();
     for (const char* name :
          {kMainStoreName, kStockStoreName, kUserStoreName, kTemplateStoreName, kOwnStoreName}) {
         std::error_code ignored;
-        if (std::filesystem::equivalent(target, folder / name, ignored)) {
+        if (targetName == name || std::filesystem::equivalent(target, folder / name, ignored)) {
             throw FileError("“" + std::string(name) + "”是正在使用的数据库，请换一个备份文件名。");
         }
+    }
+    if (targetName == kHelpFileName || targetName.starts_with(kOwnFilePrefix)) {
+        throw FileError("“" + targetName + "”是程序自己的文件，请换一个备份文件名。");
+    }
+    std::error_code ignored;
+    if (IsCopyFolder(std::filesystem::weakly_canonical(target, ignored).parent_path())) {
+        throw FileError("文件夹“副本”由程序自己使用，请把备份放在别处。");
     }
 }
 
@@ -57,9 +68,23 @@ std::filesystem::path BackupPath(const std::filesystem::path& folder, std::strin
     return folder / (std::string(name) + (hasDot ? "" : ".MBK"));
 }
 
+bool WouldReplaceOtherFile(const std::filesystem::path& target) {
+    if (!FileExists(target)) return false;
+    try {
+        Connection(target, StoreKind::Backup);
+        return false;
+    } catch (const StoreError&) {
+        return true;
+    }
+}
+
 void BackupMainStore(Connection& main, const std::filesystem::path& templateStore,
                      const std::filesystem::path& target, const TableProgress& progress) {
-    RefuseStores(target, main.File().parent_path());
+    RefuseOwnFiles(target, main.File().parent_path());
+    if (!FileExists(templateStore)) {
+        throw FileError("没有空白数据库“" + templateStore.filename().string() +
+                        "”，不能备份。请重新启动程序，启动时会重新建立它。");
+    }
     UnfinishedFile file(target);
     CopyFile(templateStore, file.Path());
     {

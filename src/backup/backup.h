@@ -19,9 +19,13 @@ using TableProgress = std::function<void(int tables)>;
 /// Path of a backup: the folder and the name, with ".MBK" behind a name that has no dot.
 std::filesystem::path BackupPath(const std::filesystem::path& folder, std::string_view name);
 
+/// True when a backup to `target` would replace a file that is no backup of ours.
+bool WouldReplaceOtherFile(const std::filesystem::path& target);
+
 /// Writes a backup of the main store: a copy of the empty template, filled row by row with the backup
 /// tables. It is written beside the target and renamed into place when it is whole, so that a failed backup
-/// never replaces a good one. Throws StoreError or FileError, also for a target that is one of the stores.
+/// never replaces a good one. Throws StoreError or FileError, also for a target that is a store, a copy of
+/// one, or another file of the program's own.
 void BackupMainStore(Connection& main, const std::filesystem::path& templateStore,
                      const std::filesystem::path& target, const TableProgress& progress);
 

@@ -18,11 +18,12 @@ const std::string kTitle = "提示";
 /// It holds the path of the copy to go back to.
 class RestoreMarker {
   public:
-    explicit RestoreMarker(const Connection& main) : file_(main.File().parent_path() / ".kalvane.restore") {}
+    explicit RestoreMarker(const Connection& main)
+        : file_(main.File().parent_path() / (std::string(kOwnFilePrefix) + "restore")) {}
 
-    bool Exists() const { return std::filesystem::exists(file_); }
+    bool Exists() const { return FileExists(file_); }
     void Set(const std::filesystem::path& copy) const { WriteFileAtomically(file_, copy.string()); }
-    std::filesystem::path Copy() const { return ReadFile(file_); }
+    std::filesystem::path Copy() const { return ReadPlainFile(file_); }
     void Remove() const {
         std::error_code failure;
         std::filesystem::remove(file_, failure);
@@ -48,6 +49,17 @@ void RestoreTables(Connection& main, Connection& backup, const TableProgress& pr
     }
 }
 
+/// Without it there would be no way back.
+std::filesystem::path CopyOfNow(const Connection& main) {
+    try {
+        return KeepCopy(main.File());
+    } catch (const StoreDamage& damage) {
+        throw StoreDamage(damage.what() +
+                          std::string("还原之前的数据不能另存，所以没有还原。请退出程序后重新启动，先按提示用"
+                                      "副本恢复。"));
+    }
+}
+
 void PutBack(Connection& main, const std::filesystem::path& copy, Notice& notice) {
     ReplaceContent(main.File(), copy);
     notice.Show("数据已恢复到还原之前的状态。", kTitle, NoticeIcon::Information);
@@ -57,8 +69,12 @@ void PutBack(Connection& main, const std::filesystem::path& copy, Notice& notice
 
 void RestoreMainStore(Connection& main, const std::filesystem::path& backupFile,
                       const TableProgress& progress, Notice& notice) {
+    std::error_code ignored;
+    if (std::filesystem::equivalent(backupFile, main.File(), ignored)) {
+        throw FileError("“" + backupFile.filename().string() + "”是正在使用的数据库，不是备份，没有还原。");
+    }
     Connection backup(backupFile, StoreKind::Backup);
-    const std::filesystem::path copy = KeepCopy(main.File());
+    const std::filesystem::path copy = CopyOfNow(main);
     const RestoreMarker marker(main);
     marker.Set(copy);
     try {
@@ -78,7 +94,7 @@ void OfferToUndoCutRestore(Connection& main, Notice& notice) {
     const RestoreMarker marker(main);
     if (!marker.Exists()) return;
     const std::filesystem::path copy = marker.Copy();
-    if (std::filesystem::exists(copy)) {
+    if (FileExists(copy)) {
         const std::string question = "上一次还原数据时程序意外结束，还原可能没有完成。要把还原之前的数据（" +
                                      TimeOfCopy(copy) + " 另存）放回吗？";
         if (notice.Confirm(question, kTitle)) PutBack(main, copy, notice);

@@ -88,7 +88,7 @@ void EvalCommand(const std::string& formula, const std::vector<std::string>& lab
 
 FolderCommands::FolderCommands(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
-void FolderCommands::Expand(const std::string& project) const {
+bool FolderCommands::Expand(const std::string& project) const {
     LockedStore store(folder_, StoreKind::Main);
     LineNotice notice;
     FormulaRows rows(store.Get());
@@ -104,6 +104,7 @@ void FolderCommands::Expand(const std::string& project) const {
             ExpandPlain(store.Get(), rows, window, notice, print);
         }
     }
+    return !notice.HasShown();
 }
 
 void FolderCommands::Demand(const std::string& project) const {
@@ -116,23 +117,27 @@ void FolderCommands::Demand(const std::string& project) const {
     }
 }
 
-void FolderCommands::Plan(const std::string& project, const RunOptions& options) const {
+bool FolderCommands::Plan(const std::string& project, const RunOptions& options) const {
     LockedStore store(folder_, StoreKind::Main);
     LineNotice notice;
     GatherProject(store.Get(), project);
+    LineNotice run;
     RunOptimisation(store.Get(), SettingsFor(options, notice), SchemeOf(options), ListMaterials(store.Get()),
-                    notice, {});
+                    run, {});
     PrintPlan(store.Get());
+    return !run.HasShown();
 }
 
-void FolderCommands::Cut(const std::filesystem::path& demandFile, const std::string& name,
+bool FolderCommands::Cut(const std::filesystem::path& demandFile, const std::string& name,
                          const RunOptions& options) const {
     std::vector<ManualRow> rows;
     ReadDemandFile(demandFile, rows);
     LockedStore store(folder_, StoreKind::Main);
     LineNotice notice;
-    RunManual(store.Get(), SettingsFor(options, notice), SchemeOf(options), name, rows, notice, {});
+    LineNotice run;
+    RunManual(store.Get(), SettingsFor(options, notice), SchemeOf(options), name, rows, run, {});
     PrintPlan(store.Get());
+    return !run.HasShown();
 }
 
 }  // namespace kalvane

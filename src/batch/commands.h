@@ -25,19 +25,20 @@ struct RunOptions {
     std::optional<std::int16_t> NODES;
 };
 
-/// The commands that work on the stores of a folder; stores that are missing are made.
+/// The commands that work on the stores of a folder; stores that are missing are made. One that can leave
+/// something out, and says so on standard error, returns whether its result is whole.
 class FolderCommands {
   public:
     explicit FolderCommands(std::filesystem::path folder);
 
     /// Prints one row per material line of each window: window, class, 名称, 规格, 长度, 宽, 数量, 单位.
-    void Expand(const std::string& project) const;
+    bool Expand(const std::string& project) const;
     /// Gathers all windows of the project and prints 优化数据.
     void Demand(const std::string& project) const;
     /// Gathers, lays out the bars of all materials and prints 优化结果, row by row.
-    void Plan(const std::string& project, const RunOptions& options) const;
+    bool Plan(const std::string& project, const RunOptions& options) const;
     /// Lays out the bars of a .DDD file and prints 优化结果.
-    void Cut(const std::filesystem::path& demandFile, const std::string& name,
+    bool Cut(const std::filesystem::path& demandFile, const std::string& name,
              const RunOptions& options) const;
 
   private:

@@ -64,13 +64,14 @@ int Run(int argc, char* argv[]) {
     eval->add_option("formula", formula, "formula text")->required();
     eval->callback([&] { EvalCommand(formula, labels); });
 
+    bool isWhole = true;
     std::string folder = ".";
     std::string project;
     RunOptions options;
     CLI::App* expand = application.add_subcommand("expand", "bill of material of each window of a project");
     AddFolder(*expand, folder);
     expand->add_option("--project", project, "name of the project")->required();
-    expand->callback([&] { FolderCommands(folder).Expand(project); });
+    expand->callback([&] { isWhole = FolderCommands(folder).Expand(project); });
 
     CLI::App* demand = application.add_subcommand("demand", "cut demand of a project");
     AddFolder(*demand, folder);
@@ -81,7 +82,7 @@ int Run(int argc, char* argv[]) {
     AddFolder(*plan, folder);
     plan->add_option("--project", project, "name of the project")->required();
     AddRunOptions(*plan, options);
-    plan->callback([&] { FolderCommands(folder).Plan(project, options); });
+    plan->callback([&] { isWhole = FolderCommands(folder).Plan(project, options); });
 
     std::string demandFile;
     std::string name;
@@ -90,7 +91,7 @@ int Run(int argc, char* argv[]) {
     cut->add_option("--demand", demandFile, ".DDD file")->required();
     cut->add_option("--name", name, "name of the material");
     AddRunOptions(*cut, options);
-    cut->callback([&] { FolderCommands(folder).Cut(demandFile, name, options); });
+    cut->callback([&] { isWhole = FolderCommands(folder).Cut(demandFile, name, options); });
 
     try {
         application.parse(Arguments(argc, argv));
@@ -99,7 +100,7 @@ int Run(int argc, char* argv[]) {
     }
     std::cout.flush();
     if (!std::cout) throw FileError("结果不能写出。");
-    return 0;
+    return isWhole ? 0 : 1;
 }
 
 }  // namespace

@@ -20,6 +20,7 @@ constexpr std::size_t kMostKinds = 100;  // that are counted by name
 constexpr std::size_t kKindsInPrompt = 6;
 constexpr std::size_t kLongestName = 24;  // bytes of a kind's name
 constexpr std::string_view kOtherKinds = "其他";
+constexpr std::string_view kBinaryMark = "AutoCAD Binary DXF";  // at the front of the format's other form
 
 std::filebuf OpenDxf(const std::filesystem::path& path) {
     RequirePlainFile(path, kLargestFile);
@@ -27,6 +28,13 @@ std::filebuf OpenDxf(const std::filesystem::path& path) {
     if (file.open(path, std::ios::in | std::ios::binary) == nullptr) {
         throw FileError("文件“" + path.string() + "”不能打开。");
     }
+    char beginning[kBinaryMark.size()];
+    const auto length = static_cast<std::size_t>(file.sgetn(beginning, sizeof beginning));
+    if (std::string_view(beginning, length) == kBinaryMark) {
+        throw FileError("文件“" + path.string() +
+                        "”是二进制的 DXF，不能导入。请在画图程序里另存为文字格式（ASCII）的 DXF。");
+    }
+    file.pubseekpos(0, std::ios::in);
     return file;
 }
 

@@ -5,7 +5,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <fstream>
 #include <iterator>
 
@@ -29,9 +28,20 @@ void WriteAll(int descriptor, std::string_view bytes, const std::filesystem::pat
 
 }  // namespace
 
+bool FileExists(const std::filesystem::path& path) {
+    std::error_code failure;
+    return std::filesystem::exists(path, failure);
+}
+
+std::string ReadPlainFile(const std::filesystem::path& path, std::uintmax_t most) {
+    RequirePlainFile(path, most);
+    return ReadFile(path);
+}
+
 std::string ReadFile(const std::filesystem::path& path) {
     std::ifstream stream(path, std::ios::binary);
-    if (!stream || std::filesystem::is_directory(path)) {
+    std::error_code failure;
+    if (!stream || std::filesystem::is_directory(path, failure)) {
         throw FileError("文件“" + path.string() + "”不能打开。");
     }
     std::string bytes{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
@@ -67,9 +77,30 @@ std::string SystemReason(int code) {
         case EROFS:
             return "磁盘是只读的";
         case ENOENT:
+        case ENOTDIR:
             return "文件夹不存在";
+        case EISDIR:
+            return "同名的是文件夹";
+        case EIO:
+            return "磁盘读写失败";
+        case EDQUOT:
+            return "磁盘配额已用完";
+        case EFBIG:
+            return "文件太大";
+        case ENAMETOOLONG:
+            return "名称太长";
+        case ELOOP:
+            return "链接循环";
+        case EBUSY:
+        case ETXTBSY:
+            return "文件正被使用";
+        case EMFILE:
+        case ENFILE:
+            return "打开的文件太多";
+        case EINVAL:
+            return "磁盘不支持这个操作";
         default:
-            return std::strerror(code);
+            return "系统错误 " + std::to_string(code);
     }
 }
 
@@ -79,7 +110,6 @@ void WriteFileAtomically(const std::filesystem::path& path, std::string_view byt
         const Descriptor file(::open(beside.Path().c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
         if (file.Get() < 0) FailOnFile(path, "写入", errno);
         WriteAll(file.Get(), bytes, path);
-        if (::fsync(file.Get()) != 0) FailOnFile(path, "写入", errno);
     }
     beside.Finish();
 }

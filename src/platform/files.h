@@ -7,8 +7,21 @@
 
 namespace kalvane {
 
+/// True when something has that name. False also when that cannot be found out: for want of rights, or since
+/// links lead in a circle.
+bool FileExists(const std::filesystem::path& path);
+
 /// All bytes of a file; throws FileError when it cannot be read.
 std::string ReadFile(const std::filesystem::path& path);
+
+/// The names of what the program keeps for itself beside the stores (locks, marks of a run) begin so.
+inline constexpr const char* kOwnFilePrefix = ".kalvane.";
+
+/// Beyond this no file of ours grows that an operator does not choose: settings, help, unsaved work.
+inline constexpr std::uintmax_t kLargestOwnFile = 16 * 1024 * 1024;
+
+/// The bytes of a plain file of at most `most` bytes; throws FileError as RequirePlainFile and ReadFile do.
+std::string ReadPlainFile(const std::filesystem::path& path, std::uintmax_t most = kLargestOwnFile);
 
 /// Throws FileError unless the path is a plain file (no folder, pipe or device, which might never end) of at
 /// most `most` bytes.

@@ -8,7 +8,7 @@ namespace kalvane {
 
 std::string HelpText(const std::filesystem::path& folder) {
     try {
-        return DecodeFileText(ReadFile(folder / kHelpFileName));
+        return DecodeFileText(ReadPlainFile(folder / kHelpFileName));
     } catch (const FileError&) {
         return "无帮助文件！";
     }

@@ -13,6 +13,7 @@
 namespace kalvane {
 namespace {
 constexpr std::string_view kExtension = ".txt";
+constexpr int kLargestNumber = 1'000'000'000;  // a file beyond it is not ours: the next number must fit
 }  // namespace
 
 RecoveryShelf::RecoveryShelf(std::filesystem::path folder, std::string stem)
@@ -27,7 +28,7 @@ int RecoveryShelf::NumberIn(std::string_view name) const {
     const char* last = name.data() + name.size() - kExtension.size();
     int number = 0;
     const auto [stop, failure] = std::from_chars(first, last, number);
-    return failure == std::errc() && stop == last ? number : 0;
+    return failure == std::errc() && stop == last && number < kLargestNumber ? number : 0;
 }
 
 std::vector<int> RecoveryShelf::Numbers() const {
@@ -60,7 +61,7 @@ std::string RecoveryShelf::Take() {
     KALVANE_ASSERT(Offers());
     const int number = offered_.back();
     offered_.pop_back();
-    std::string text = ReadFile(File(number));
+    std::string text = ReadPlainFile(File(number));
     current_ = number;
     return text;
 }
@@ -71,7 +72,7 @@ void RecoveryShelf::Keep(const std::string& text) {
     for (const int number : Numbers()) {
         if (number == current_) continue;
         try {
-            if (ReadFile(File(number)) == text) Remove(number);
+            if (ReadPlainFile(File(number)) == text) Remove(number);
         } catch (const FileError&) {
             continue;
         }

@@ -8,7 +8,8 @@
 namespace kalvane {
 
 /// Per-user settings: texts addressed by application, section and key. The default applies at the read, so
-/// one key may have different defaults in different places. Each save reaches the disk before it returns.
+/// one key may have different defaults in different places. Each save reaches the disk before it returns, and
+/// changes its own key alone: what another program has saved meanwhile stays.
 class SettingsStore {
   public:
     /// The file need not exist. An unreadable line is skipped, since a damaged setting must not keep the
@@ -26,8 +27,12 @@ class SettingsStore {
               std::string_view text);
 
   private:
+    /// Takes in what the file holds now.
+    void Load();
+
     std::filesystem::path file_;
-    std::map<std::string, std::string> values_;  // "application/section/key"
+    std::map<std::string, std::string> values_;   ///< by "application/section/key"
+    std::map<std::string, std::string> unsaved_;  ///< those of this run that the file does not hold yet
 };
 
 /// Application and section names in use.

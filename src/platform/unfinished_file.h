@@ -18,7 +18,7 @@ class UnfinishedFile {
     /// Where to write it.
     const std::filesystem::path& Path() const { return path_; }
 
-    /// Gives the file its name as one step, in place of a file that had it, and flushes that to the disk.
+    /// Flushes the file to the disk and gives it its name as one step, in place of a file that had it.
     /// Throws FileError; the other file then stays as it was.
     void Finish();
 
@@ -32,5 +32,8 @@ class UnfinishedFile {
     std::filesystem::path name_;
     std::filesystem::path path_;
 };
+
+/// True for the temporary name of such a file, or of its journal: what a killed program leaves.
+bool IsUnfinishedName(const std::filesystem::path& file);
 
 }  // namespace kalvane

@@ -1,38 +1,23 @@
 #include "platform/workbook.h"
 
-#include <unistd.h>
 #include <xlsxwriter.h>
 
+#include <cerrno>
 #include <cstdint>
-#include <cstdlib>
 
 #include "numeric/error.h"
 #include "numeric/number.h"
 #include "platform/files.h"
+#include "platform/unfinished_file.h"
+#include "platform/workbook_check.h"
 
 namespace kalvane {
 namespace {
 
-/// An empty file in the folder for temporary files, removed by the destructor.
-class TemporaryFile {
-  public:
-    TemporaryFile() : path_((std::filesystem::temp_directory_path() / "kalvane-XXXXXX").string()) {
-        const int descriptor = ::mkstemp(path_.data());
-        if (descriptor < 0) throw FileError("临时文件“" + path_ + "”不能写入。");
-        ::close(descriptor);
-    }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile() { ::unlink(path_.c_str()); }
-
-    const std::string& Path() const { return path_; }
-
-  private:
-    std::string path_;
-};
-
+/// The library's reason is English: the disk is by far the likeliest.
 void Check(lxw_error result) {
-    if (result != LXW_NO_ERROR) throw FileError(std::string("电子表格不能写入：") + lxw_strerror(result));
+    if (result == LXW_NO_ERROR) return;
+    throw FileError("电子表格不能写入：磁盘已满，或者文件夹不能写入。");
 }
 
 constexpr std::uint8_t kA4 = 9;  // the format's number of the paper size
@@ -75,8 +60,15 @@ void Sheet::DrawBorders(int firstRow, int firstColumn, int lastRow, int lastColu
 }
 
 void Workbook::Save(const std::filesystem::path& path) const {
-    const TemporaryFile file;
-    lxw_workbook* book = workbook_new(file.Path().c_str());
+    // The parts are written beside the file, too: what fits there when they are zipped fits there unzipped or
+    // is noticed, whatever the folder for temporary files has room for.
+    const std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : ".";
+    if (!IsWritableFolder(folder)) FailOnFile(path, "写入", errno);
+    UnfinishedFile file(path);
+    std::string parts = folder.string();
+    lxw_workbook_options options = {};
+    options.tmpdir = parts.data();
+    lxw_workbook* book = workbook_new_opt(file.Path().c_str(), &options);
     if (book == nullptr) throw FileError("电子表格不能写入。");
     lxw_format* centred = workbook_add_format(book);
     format_set_align(centred, LXW_ALIGN_CENTER);
@@ -128,7 +120,8 @@ void Workbook::Save(const std::filesystem::path& path) const {
     const lxw_error closed = workbook_close(book);
     Check(failure);
     Check(closed);
-    WriteFileAtomically(path, ReadFile(file.Path()));
+    RequireWholeWorkbook(file.Path());
+    file.Finish();
 }
 
 }  // namespace kalvane

@@ -21,8 +21,9 @@ struct AppState {
     std::string userPwd;   ///< scrambled, as it was compared
     std::string userAuth;  ///< twelve rights, trimmed
 
-    std::filesystem::path folder;  ///< start-up folder, where the stores lie
-    bool checkStores = false;      ///< the program did not end cleanly the last time
+    std::filesystem::path folder;    ///< start-up folder, where the stores lie
+    bool checkStores = false;        ///< the program did not end cleanly the last time
+    bool storesAreDoubtful = false;  ///< damage was seen: the next start checks them
     std::unique_ptr<Connection> mainConnection;
     std::string mainConnectionText;
     std::unique_ptr<Connection> stockConnection;

@@ -1,7 +1,9 @@
 #include "store/connection.h"
 
+#include <algorithm>
 #include <charconv>
 #include <exception>
+#include <set>
 #include <utility>
 
 #include "numeric/assertion.h"
@@ -12,6 +14,7 @@
 #include "store/comparison_functions.h"
 #include "store/connection_implementation.h"
 #include "store/engine_error.h"
+#include "store/store_files.h"
 
 namespace kalvane {
 namespace {
@@ -73,6 +76,13 @@ FieldValue NumberField(const PreparedStatement& statement, int column) {
     return FieldValue(std::int64_t{sqlite3_column_int64(statement.handle, column)});
 }
 
+/// The path as it is where the current folder cannot be found out.
+std::filesystem::path AbsolutePath(const std::filesystem::path& file) {
+    std::error_code failure;
+    std::filesystem::path path = std::filesystem::absolute(file, failure);
+    return failure ? file : path;
+}
+
 EngineValue ArgumentValue(sqlite3_value* argument) {
     switch (sqlite3_value_type(argument)) {
         case SQLITE_INTEGER:
@@ -104,10 +114,12 @@ void BindValue(sqlite3_stmt* statement, int position, const EngineValue& value, 
 
 Connection::Implementation::Implementation(const std::filesystem::path& path, StoreKind kind) : file(path) {
     const std::string name = path.filename().string();
-    if (!std::filesystem::is_regular_file(path)) throw StoreError("没有数据库文件“" + name + "”。");
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(path, ignored)) throw StoreError("没有数据库文件“" + name + "”。");
     const int access = IsReadOnly(kind) ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
     const int opened = sqlite3_open_v2(path.c_str(), &database, access | SQLITE_OPEN_NOMUTEX, nullptr);
     try {
+        if (kind == StoreKind::Users) KeepToOwner(path);
         if (opened != SQLITE_OK) ThrowEngineError(database, name + "：");
         Configure(kind);
         CheckFile(name, kind);
@@ -134,7 +146,9 @@ void Connection::Implementation::Configure(StoreKind kind) {
         sqlite3_db_config(database, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
         Run("PRAGMA cell_size_check = ON");
     } else {
-        Run("PRAGMA synchronous = FULL");
+        // Beyond FULL this flushes the folder after the journal is gone: with a journal that a power cut
+        // brings back, a confirmed command would be undone.
+        Run("PRAGMA synchronous = EXTRA");
     }
 }
 
@@ -147,16 +161,30 @@ void Connection::Implementation::CheckFile(const std::string& name, StoreKind ki
         throw StoreError("数据库文件“" + name + "”是由更新版本的程序建立的，请用新版本打开。");
     }
     for (const Table& table : TablesOf(kind)) {
-        const std::string probe = "SELECT * FROM \"" + std::string(table.name) + "\" LIMIT 0";
-        if (sqlite3_exec(database, probe.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-            throw StoreDamage("数据库文件“" + name + "”里没有表“" + std::string(table.name) +
-                              "”，文件已损坏。");
+        const std::string where = "数据库文件“" + name + "”里没有表“" + std::string(table.name) + "”";
+        const std::string probe = "SELECT * FROM \"" + std::string(table.name) + "\"";
+        sqlite3_stmt* statement = nullptr;
+        if (sqlite3_prepare_v2(database, probe.c_str(), -1, &statement, nullptr) != SQLITE_OK) {
+            throw StoreDamage(where + "，文件已损坏。");
+        }
+        std::set<std::string_view> columns;
+        for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+            columns.insert(sqlite3_column_name(statement, i));
+        }
+        // The columns of the earlier program's files go by their places.
+        const auto missing =
+            std::find_if(table.columns.begin(), table.columns.end(), [&](const Column& column) {
+                return kind != StoreKind::Legacy && columns.count(column.name) == 0;
+            });
+        sqlite3_finalize(statement);
+        if (missing != table.columns.end()) {
+            throw StoreDamage(where + "的列“" + std::string(missing->name) + "”，文件已损坏。");
         }
     }
 }
 
 void Connection::Implementation::CheckIntegrity() {
-    if (ReadPragma("integrity_check(1)") != "ok") {
+    if (ReadPragma("integrity_check(1)") != kSoundStore) {
         throw StoreDamage("数据库文件“" + file.filename().string() + "”已损坏。");
     }
 }
@@ -266,7 +294,7 @@ void Connection::Implementation::StoreFunction(sqlite3_context* context, int, sq
 }
 
 Connection::Connection(const std::filesystem::path& file, StoreKind kind)
-    : implementation_(std::make_unique<Implementation>(std::filesystem::absolute(file), kind)) {}
+    : implementation_(std::make_unique<Implementation>(AbsolutePath(file), kind)) {}
 
 Connection::~Connection() = default;
 

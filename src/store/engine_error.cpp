@@ -15,12 +15,24 @@ std::string StatementErrorText(std::string_view message) {
         return "“" + std::string(message.substr(kUnknownColumn.size())) +
                "”不是列名也不是数字，数字栏里只能填数字。";
     }
-    return "数据库拒绝执行语句：" + std::string(message) + "。";
+    constexpr std::string_view kUnknownTable = "no such table: ";
+    if (message.starts_with(kUnknownTable)) {
+        return "数据库里没有表“" + std::string(message.substr(kUnknownTable.size())) + "”。";
+    }
+    // The engine quotes the place: near "x": syntax error; unrecognized token: "'x".
+    const std::size_t first = message.find('"');
+    const std::size_t last = message.rfind('"');
+    if (first == last) return "数据库拒绝执行语句：语句不完整或有错误。";
+    return "数据库拒绝执行语句：“" + std::string(message.substr(first + 1, last - first - 1)) +
+           "”附近有错误。";
 }
 
 }  // namespace
 
 std::string EngineErrorText(sqlite3* database) {
+    if (sqlite3_extended_errcode(database) == SQLITE_READONLY_DBMOVED) {
+        return "数据库文件在程序运行时被移走或改名了，数据没有写入。请把它放回原处，重新启动程序。";
+    }
     switch (sqlite3_errcode(database)) {
         case SQLITE_FULL:
             return "磁盘已满，数据没有写入。请清理磁盘后再试。";

@@ -13,6 +13,9 @@ std::string EngineErrorText(sqlite3* database);
 /// text.
 [[noreturn]] void ThrowEngineError(sqlite3* database, const std::string& before = {});
 
+/// What the engine's checks of a file give for a sound one.
+inline constexpr const char* kSoundStore = "ok";
+
 /// "KLVN", kept in each store file.
 inline constexpr int kApplicationId = 0x4B4C564E;
 

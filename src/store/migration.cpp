@@ -88,7 +88,8 @@ void MigrateStore(const std::filesystem::path& file, StoreKind kind, Notice& not
                   std::span<const MigrationStep> steps, int newest) {
     const Handle store = Open(file);
     if (store == nullptr || HeaderNumber(store.get(), "PRAGMA application_id") != kApplicationId) return;
-    if (!IsWritableFolder(std::filesystem::absolute(file).parent_path()) ||
+    std::error_code ignored;  // an empty path is no folder that can be written to
+    if (!IsWritableFolder(std::filesystem::absolute(file, ignored).parent_path()) ||
         sqlite3_db_readonly(store.get(), "main") != 0)
         return;
     const int version = HeaderNumber(store.get(), "PRAGMA user_version");

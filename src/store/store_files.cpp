@@ -1,8 +1,10 @@
 #include "store/store_files.h"
 
 #include <sqlite3.h>
+#include <sys/stat.h>
 
 #include "numeric/error.h"
+#include "platform/files.h"
 #include "store/engine_error.h"
 
 namespace kalvane {
@@ -53,14 +55,21 @@ std::string CreationText(StoreKind kind) {
 
 }  // namespace
 
+void KeepToOwner(const std::filesystem::path& file) {
+    struct stat state = {};
+    const bool isOpen = ::stat(file.c_str(), &state) == 0 && (state.st_mode & (S_IRWXG | S_IRWXO)) != 0;
+    if (isOpen) ::chmod(file.c_str(), S_IRUSR | S_IWUSR);
+}
+
 void CreateStore(const std::filesystem::path& file, StoreKind kind) {
-    if (std::filesystem::exists(file)) throw StoreError("文件“" + file.string() + "”已经存在。");
+    if (FileExists(file)) throw StoreError("文件“" + file.string() + "”已经存在。");
     sqlite3* database = nullptr;
     int result =
         sqlite3_open_v2(file.c_str(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     if (result == SQLITE_OK) {
         result = sqlite3_exec(database, CreationText(kind).c_str(), nullptr, nullptr, nullptr);
     }
+    if (kind == StoreKind::Users) KeepToOwner(file);
     const std::string text = result == SQLITE_OK ? "" : EngineErrorText(database);
     sqlite3_close(database);
     if (result != SQLITE_OK) throw StoreError("不能建立文件“" + file.string() + "”：" + text);

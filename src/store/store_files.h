@@ -12,7 +12,11 @@ inline constexpr const char* kUserStoreName = "user.mdb";
 inline constexpr const char* kOwnStoreName = "kalvane.mdb";
 inline constexpr const char* kTemplateStoreName = "bak.mdb";
 
-/// Makes one empty store file; `file` must not exist.
+/// Takes the rights to a file from everyone but its owner, where this program may; for the store with the
+/// passwords.
+void KeepToOwner(const std::filesystem::path& file);
+
+/// Makes one empty store file; `file` must not exist. That of the users is its owner's alone.
 void CreateStore(const std::filesystem::path& file, StoreKind kind);
 
 }  // namespace kalvane

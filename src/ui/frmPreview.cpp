@@ -139,6 +139,7 @@ void frmPreview::StepZoom(int direction) {
 }
 
 void frmPreview::Print() {
+    delivered_->clear();
     const auto [first, last] = ChosenPages();
     document_.Print(printers_->currentText(), copies_->value(), first, last);
     Remember(kPrinterKey, printers_->currentText());
@@ -150,6 +151,7 @@ void frmPreview::SavePdf() {
         this,
         {QStringLiteral("pdf"), QStringLiteral("PDF 文件|*.pdf"), QStringLiteral("pdf"), document_.Title()});
     if (file.isEmpty()) return;
+    delivered_->clear();  // what an earlier one left must not stand beside a failure
     const auto [first, last] = ChosenPages();
     document_.WritePdf(FromQt(file), first, last);
     ShowDelivered(QStringLiteral("已保存：%1").arg(file));

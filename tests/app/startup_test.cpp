@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include "app/daily_copies.h"
 #include "app/instance_lock.h"
 #include "app/run_marker.h"
 #include "app/store_setup.h"
@@ -40,7 +41,8 @@ class StartupTest : public MainStoreTest {
 
 TEST_F(StartupTest, ADamagedStoreIsReplacedAfterAYesAndNeverLost) {
     Start();
-    Start();
+    KeepDailyCopies(state_, notice_);
+    KeepDailyCopies(state_, notice_);
     EXPECT_EQ(CopiesOf(file_).size(), 1U) << "one a day";
     state_.Main().Execute("Insert into 图 (编号) values(8)");
     const std::filesystem::path copy = KeepCopy(file_);
@@ -48,6 +50,11 @@ TEST_F(StartupTest, ADamagedStoreIsReplacedAfterAYesAndNeverLost) {
     const std::string damaged = ReadFile(file_);
     Start();
     EXPECT_TRUE(notice_.shown.empty()) << "only an unclean end makes it look";
+    std::filesystem::remove(CopiesOf(file_).back());
+    KeepDailyCopies(state_, notice_);
+    EXPECT_NE(notice_.shown.at(0).find("以前的副本都还在"), std::string::npos) << notice_.shown[0];
+    EXPECT_TRUE(state_.storesAreDoubtful);
+    EXPECT_EQ(CopiesOf(file_), std::vector{copy});
 
     state_.checkStores = true;
     Start();  // answered with no
@@ -126,12 +133,42 @@ TEST_F(StartupTest, AReadOnlyFolderIsToldOnceAndCanBeLookedAt) {
     InstanceLock lock(folder_.Path());
     EXPECT_TRUE(lock.Acquire());
     Start();
-    EXPECT_TRUE(notice_.shown.empty()) << "no copy of the day, and no word about it";
+    EXPECT_TRUE(notice_.shown.empty());
+    KeepDailyCopies(state_, notice_);
     WarnOfReadOnlyFolder(state_, notice_);
     EXPECT_EQ(notice_.shown.size(), 1U);
     EXPECT_EQ(Drawings(), "7");
     EXPECT_THROW(state_.Main().Execute("Insert into 图 (编号) values(8)"), StoreError);
     EXPECT_EQ(Drawings(), "7");
+}
+
+TEST_F(StartupTest, CopiesThatCannotBeReadAreNoReasonToEnd) {
+    KeepCopy(file_);
+    std::filesystem::permissions(folder_ / "副本", std::filesystem::perms(0));
+    {
+        const ReadOnlyFolder readOnly(folder_.Path());  // without the rights of an administrator
+        Start();
+        EXPECT_EQ(Drawings(), "7");
+        EXPECT_TRUE(CopiesOf(file_).empty());
+    }
+    std::filesystem::permissions(folder_ / "副本", std::filesystem::perms(0755));
+}
+
+TEST_F(StartupTest, AMissingColumnIsNamed) {
+    RunRaw(file_, "ALTER TABLE \"图\" RENAME COLUMN \"图名\" TO \"名\"");
+    Start();
+    EXPECT_NE(notice_.shown.at(0).find("里没有表“图”的列“图名”"), std::string::npos) << notice_.shown[0];
+}
+
+TEST_F(StartupTest, AStoreThatIsMovedAwayIsNotCalledReadOnly) {
+    Start();
+    std::filesystem::rename(file_, folder_ / "moved.mdb");
+    try {
+        state_.Main().Execute("Insert into 图 (编号) values(8)");
+        ADD_FAILURE() << "written to a file that is not there";
+    } catch (const StoreError& error) {
+        EXPECT_NE(std::string(error.what()).find("被移走或改名"), std::string::npos) << error.what();
+    }
 }
 
 TEST(RunMarker, ExistsAfterAnUncleanEndOnly) {

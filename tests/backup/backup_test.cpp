@@ -110,6 +110,36 @@ TEST_F(BackupTest, WhatIsNoBackupChangesNothing) {
     EXPECT_TRUE(CopiesOf(file_).empty());
 }
 
+TEST_F(BackupTest, NoFileButABackupIsReplacedOrRestored) {
+    for (const char* name : {"cl.mdb", "elsewhere/CangKu.mdb", "help.txt", ".kalvane.lock", "副本/a.MBK"}) {
+        const std::filesystem::path target = folder_ / name;
+        std::filesystem::create_directories(target.parent_path());
+        if (!FileExists(target)) WriteFileAtomically(target, "x");
+        const std::string before = ReadFile(target);
+        EXPECT_THROW(BackupMainStore(*store_, folder_ / kTemplateStoreName, target, {}), FileError) << name;
+        EXPECT_EQ(ReadFile(target), before) << name;
+    }
+    WriteFileAtomically(folder_ / "letter.doc", "Dear Sir");
+    EXPECT_TRUE(WouldReplaceOtherFile(folder_ / "letter.doc"));
+    EXPECT_FALSE(WouldReplaceOtherFile(folder_ / "none.MBK"));
+    Backup();
+    EXPECT_FALSE(WouldReplaceOtherFile(backup_));
+
+    EXPECT_NE(Restore(file_).find("是正在使用的数据库"), std::string::npos);
+    std::filesystem::remove(folder_ / kTemplateStoreName);
+    EXPECT_THROW(BackupMainStore(*store_, folder_ / kTemplateStoreName, folder_ / "b.MBK", {}), FileError);
+}
+
+TEST_F(BackupTest, ADamagedStoreIsNotRestoredOver) {
+    Backup();
+    store_.reset();
+    const std::string bytes = ReadFile(file_);
+    WriteFileAtomically(file_, bytes.substr(0, bytes.size() - 4096) + std::string(4096, 'x'));
+    store_ = std::make_unique<Connection>(file_, StoreKind::Main);
+    EXPECT_NE(Restore(backup_).find("所以没有还原"), std::string::npos);
+    EXPECT_TRUE(notice_.shown.empty());
+}
+
 TEST_F(BackupTest, ARestoreThatAKillCutOffIsOfferedToBeUndone) {
     Backup();
     EmptyStore();

@@ -79,6 +79,19 @@ TEST_F(DiskFaultTest, AddingAWindowIsWholeOrNothing) {
     });
 }
 
+TEST_F(DiskFaultTest, WhatWasConfirmedOutlivesAPowerCut) {
+    store_ = std::make_unique<Connection>(file_, StoreKind::Main);
+    const std::size_t before = ListWindows(*store_, "1").size();
+    const std::vector<LabelRow> labels = {{"B", "1500", "1", "2"}};
+    for (int i = 0; i < 10; ++i) {
+        AddWindow(*store_, {"C1", "客厅", "1500", "1200", "2", "", "1", "1", ""}, labels);
+    }
+    store_.reset();
+    disk_.CutPower();
+    store_ = std::make_unique<Connection>(file_, StoreKind::Main);
+    EXPECT_EQ(ListWindows(*store_, "1").size(), before + 10);
+}
+
 TEST_F(DiskFaultTest, SavingADrawingIsWholeOrNothing) {
     CPictire picture(notice_);
     for (int i = 0; i < 100; ++i) picture.AddLine({{1, 2}, {3, static_cast<float>(i)}});

@@ -70,16 +70,5 @@ TEST_F(MigrationTest, AFailingStepChangesNothingAndANewerStoreIsRefused) {
     EXPECT_THROW(Connection(file_, StoreKind::Main), StoreError);
 }
 
-TEST_F(MigrationTest, TheNewestFiveCopiesStay) {
-    std::vector<std::filesystem::path> kept;
-    for (int i = 0; i < 7; ++i) kept.insert(kept.begin(), KeepCopy(file_));
-    kept.resize(5);
-    EXPECT_EQ(CopiesOf(file_), kept);
-    KeepDailyCopy(file_);  // there is one of today
-    EXPECT_EQ(CopiesOf(file_), kept);
-    // 2024-02-29, 08:05:09
-    EXPECT_EQ(TimeOfCopy("/x/cl-20240229-080509-123.mdb"), "2024-02-29 08:05:09");
-}
-
 }  // namespace
 }  // namespace kalvane::test

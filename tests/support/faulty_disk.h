@@ -2,13 +2,17 @@
 
 #include <sqlite3.h>
 
+#include <fstream>
+#include <iterator>
 #include <map>
+#include <string>
 
 namespace kalvane::test {
 
 /// Stands between the engine and the disk, and lets the n-th write, truncation, sync, deletion or opening of
-/// a file fail. A failing write leaves half of its bytes behind. Syncs are not passed on: the tests outlive
-/// no power cut, and would wait for the disk most of the time.
+/// a file fail. A failing write leaves half of its bytes behind. Syncs are not passed on, since the tests
+/// would wait for the disk most of the time: what a power cut does to a folder whose changes were not flushed
+/// is acted out by CutPower.
 class FaultyDisk {
   public:
     enum class Mode {
@@ -33,6 +37,11 @@ class FaultyDisk {
         left_ = operation;
         mode_ = mode;
         hasFailed_ = false;
+    }
+    /// Brings back the files whose deletion was not flushed to their folder, as a power cut may.
+    void CutPower() {
+        for (const auto& [name, content] : unflushed_) std::ofstream(name, std::ios::binary) << content;
+        unflushed_.clear();
     }
     /// Lets everything pass again; true when something has failed.
     bool Heal() {
@@ -77,7 +86,14 @@ class FaultyDisk {
         file->pMethods = &ours;
         return SQLITE_OK;
     }
-    static int Delete(sqlite3_vfs*, const char* name, int) {
+    static int Delete(sqlite3_vfs*, const char* name, int isFlushed) {
+        FaultyDisk& disk = *Current();
+        if (isFlushed != 0) {
+            disk.unflushed_.clear();
+        } else {
+            std::ifstream file(name, std::ios::binary);
+            disk.unflushed_[name] = {std::istreambuf_iterator<char>(file), {}};
+        }
         return Fails() ? SQLITE_IOERR_DELETE : Current()->real_->xDelete(Current()->real_, name, 0);
     }
     static int Write(sqlite3_file* file, const void* from, int count, sqlite3_int64 at) {
@@ -95,6 +111,7 @@ class FaultyDisk {
     int left_ = 0;  ///< operations until one fails; 0: none does
     Mode mode_ = Mode::Once;
     bool hasFailed_ = false;
+    std::map<std::string, std::string> unflushed_;  ///< deleted files with what they held
 };
 
 }  // namespace kalvane::test

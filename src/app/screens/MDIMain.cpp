@@ -1,6 +1,7 @@
 #include "app/screens/MDIMain.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QIcon>
 #include <QLabel>
@@ -8,8 +9,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 
+#include "app/daily_copies.h"
 #include "app/screens/main_entries.h"
 #include "app/screens/picture_area.h"
 #include "app/startup.h"
@@ -27,13 +30,14 @@ namespace {
 
 constexpr std::int16_t kWindCheckAtStart = 1;
 constexpr QSize kFirstSize(1180, 800);
+constexpr int kIdleMilliseconds = 2000;  // until the operator has seen the screen
 constexpr int kToolbarIcon = 32;
 constexpr int kToolbarButtonWidth = 72;
 const QString kGeometryKey = QStringLiteral("MDIMain.geometry");
 
 }  // namespace
 
-MDIMain::MDIMain() : area_(new PictureArea(this)) {
+MDIMain::MDIMain() : area_(new PictureArea(this)), idle_(new QTimer(this)) {
     setObjectName(QStringLiteral("MDIMain"));
     setWindowTitle(QStringLiteral("KalvaneV7.0"));
     setCentralWidget(area_);
@@ -42,6 +46,10 @@ MDIMain::MDIMain() : area_(new PictureArea(this)) {
     MakeMenus();
     MakeToolbar();
     MakeStatusBar();
+    // A modal screen may be in the middle of something: it is waited for.
+    OnSignal(idle_, &QTimer::timeout, this, [this] {
+        if (QApplication::activeModalWidget() == nullptr) KeepCopies();
+    });
     resize(kFirstSize);
     restoreGeometry(QByteArray::fromBase64(Remembered(kGeometryKey, {}).toLatin1()));
 }
@@ -54,6 +62,13 @@ void MDIMain::Load() {
     OpenMainStore(App(), notice);
     OpenOwnStore(App(), notice);
     ApplyRights();
+    idle_->start(kIdleMilliseconds);
+}
+
+void MDIMain::KeepCopies() {
+    idle_->stop();
+    MessageNotice notice(this);
+    KeepDailyCopies(App(), notice);
 }
 
 void MDIMain::closeEvent(QCloseEvent* event) {
@@ -63,6 +78,7 @@ void MDIMain::closeEvent(QCloseEvent* event) {
         event->ignore();                    // the screen wants to stay
         return;
     }
+    if (idle_->isActive()) Guarded(this, [this] { KeepCopies(); });
     Remember(kGeometryKey, QString::fromLatin1(saveGeometry().toBase64()));
     event->accept();
 }

@@ -7,6 +7,7 @@
 #include "app/rights.h"
 
 class QAction;
+class QTimer;
 
 namespace kalvane {
 
@@ -31,6 +32,8 @@ class MDIMain : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    /// Today's copies of the stores.
+    void KeepCopies();
     void MakeMenus();
     void MakeToolbar();
     void MakeStatusBar();
@@ -39,6 +42,7 @@ class MDIMain : public QMainWindow {
     void ApplyRights();
 
     PictureArea* area_;
+    QTimer* idle_;                                     ///< runs until the copies of the day are kept
     std::vector<std::pair<QAction*, Right>> guarded_;  ///< disabled until ApplyRights grants them
 };
 

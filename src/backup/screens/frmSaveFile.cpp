@@ -114,9 +114,14 @@ void frmSaveFile::Save() {
         Dir1_->setFocus();
         return;
     }
+    const std::filesystem::path target = BackupPath(FromQt(folder), FromQt(TxtFileName_->text()));
+    if (WouldReplaceOtherFile(target) &&
+        !AskToLose(this, QStringLiteral("“%1”已经存在，它不是本系统的备份。要替换它吗？")
+                             .arg(ToQt(target.filename().string())))) {
+        return;
+    }
     progress_->Run([&](const TableProgress& progress) {
-        BackupMainStore(App().Main(), App().folder / kTemplateStoreName,
-                        BackupPath(FromQt(folder), FromQt(TxtFileName_->text())), progress);
+        BackupMainStore(App().Main(), App().folder / kTemplateStoreName, target, progress);
     });
     RememberFolder(Purpose(), folder);
     Tell(this, QStringLiteral("已备份完毕！"));

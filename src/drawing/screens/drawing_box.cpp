@@ -22,7 +22,7 @@ void DrawingBox::ShowFile(const std::filesystem::path& file) {
     Show(drawing, Names::Shown, Extent::Inner);
 }
 
-void DrawingBox::Show(std::shared_ptr<const MCPicture> drawing, Names names, Extent extent) {
+void DrawingBox::Show(const std::shared_ptr<const MCPicture>& drawing, Names names, Extent extent) {
     SetPersistent([drawing, names, extent](PainterTarget& target, Box inner) {
         Box box = inner;
         if (extent == Extent::Outer) {

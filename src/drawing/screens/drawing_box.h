@@ -35,7 +35,7 @@ class DrawingBox : public PictureBox {
     void ShowLabels(std::vector<WindowLabel> labels, int selected = -1);
 
   private:
-    void Show(std::shared_ptr<const MCPicture> drawing, Names names, Extent extent);
+    void Show(const std::shared_ptr<const MCPicture>& drawing, Names names, Extent extent);
 
     MessageNotice notice_;
 };

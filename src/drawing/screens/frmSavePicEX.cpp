@@ -9,6 +9,7 @@
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
 #include "ui/guard.h"
+#include "ui/number_filter.h"
 #include "ui/text.h"
 #include "ui/text_box.h"
 
@@ -25,6 +26,8 @@ frmSavePicEX::frmSavePicEX(QWidget* parent)
       number_(MakeBox(QStringLiteral("Text2"), this)) {
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
     name_->setMaxLength(kLongestName);
+    // The engine would round "12.1" to a number that another drawing may have.
+    NumberFilter::Set(number_, NumberKeys::Digits);
     auto* label1 = new QLabel(QStringLiteral("文件名："), this);
     label1->setObjectName(QStringLiteral("Label1"));
     auto* label2 = new QLabel(QStringLiteral("图形编号："), this);

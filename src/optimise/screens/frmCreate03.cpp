@@ -54,6 +54,7 @@ void frmCreate03::Load() {
 void frmCreate03::Next() {
     if (runPanel_->IsRunning()) return;
     std::vector<std::string> materials;
+    materials.reserve(static_cast<std::size_t>(lists_->Chosen().RowCount()));
     for (int row = 0; row < lists_->Chosen().RowCount(); ++row) {
         materials.push_back(FromQt(lists_->Chosen().Text(row, 0)));
     }

@@ -183,6 +183,7 @@ void frmHandup::AddRows(const std::vector<ManualRow>& rows) {
 
 std::vector<ManualRow> frmHandup::Rows() const {
     std::vector<ManualRow> rows;
+    rows.reserve(static_cast<std::size_t>(lvw_->RowCount()));
     for (int row = 0; row < lvw_->RowCount(); ++row) {
         rows.push_back({FromQt(lvw_->Text(row, 0)), FromQt(lvw_->Text(row, 1))});
     }

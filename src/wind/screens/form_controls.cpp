@@ -60,7 +60,8 @@ QWidget* FormControls::MakeControl(const FormBox& box, QWidget* screen) {
 
 QGroupBox* FormControls::Group(const QString& title, std::string_view first, std::string_view last) {
     auto* group = new QGroupBox(title);
-    auto* rows = new QFormLayout(group);
+    auto* rows = new QFormLayout;
+    group->setLayout(rows);
     for (std::size_t place = Place(first); place <= Place(last); ++place) {
         const FormBox& box = boxes_[place];
         if (box.unit.empty()) {

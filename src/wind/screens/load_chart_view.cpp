@@ -50,7 +50,8 @@ QPointF LoadChartView::Place(const QRectF& field, std::size_t height, double wk)
 void LoadChartView::PaintAxes(QPainter& painter, const QRectF& field) const {
     painter.setPen(QColor(0xdd, 0xdd, 0xdd));
     const double step = NiceStep(chart_.Highest());
-    for (double wk = 0; wk <= top_ + step / 2; wk += step) {
+    for (int line = 0; line * step <= top_ + step / 2; ++line) {
+        const double wk = line * step;
         const double y = Place(field, 0, wk).y();
         painter.setPen(QColor(0xdd, 0xdd, 0xdd));
         painter.drawLine(QPointF(field.left(), y), QPointF(field.right(), y));
