@@ -48,10 +48,10 @@ frmUserChangPwd::frmUserChangPwd(QWidget* parent)
 
     OnSignal(ok, &QPushButton::clicked, this, [this] { Change(); });
     OnSignal(cancel, &QPushButton::clicked, this, [this] { Leave(); });
+    Guarded(this, [this] { OpenUsers(); });
 }
 
 int frmUserChangPwd::exec() {
-    Guarded(this, [this] { OpenUsers(); });
     return users_ != nullptr ? Screen::exec() : Rejected;
 }
 
