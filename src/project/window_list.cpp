@@ -29,7 +29,8 @@ constexpr std::size_t kLinesInCell = 4;
 constexpr PageFont kTitleFont{16, true};
 constexpr PageFont kTextFont{9, false};
 constexpr PageFont kNameFont{9, true};
-constexpr PageFont kLabelFont{6, false};
+/// As large as keeps the values clear of the lines at this scale.
+constexpr PageFont kLabelFont{5, false};
 
 std::string SquareMetres(double area) {
     std::array<char, 64> text{};
