@@ -43,7 +43,8 @@ std::vector<std::string> Arguments(int argc, char* argv[]) {
 
 int Run(int argc, char* argv[]) {
     CLI::App application(
-        "Kalvane without a screen: formulas, bills of material, cutting plans, windows and contracts, material "
+        "Kalvane without a screen: formulas, bills of material, cutting plans, windows and contracts, "
+        "material "
         "and settlement, component sheets, wind-pressure checks and the warehouse",
         "kalvane-batch");
     application.require_subcommand(1);

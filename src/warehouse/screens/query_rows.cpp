@@ -9,7 +9,7 @@
 namespace kalvane {
 namespace {
 
-constexpr int kFirstRows = 500;  // more than a screen shows
+constexpr int kFirstRows = 500;   // more than a screen shows
 constexpr int kNextRows = 20000;  // in about a tenth of a second
 
 }  // namespace
