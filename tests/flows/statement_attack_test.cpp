@@ -105,9 +105,9 @@ TEST_F(StatementAttackTest, Catalogue) {
         [](QDialog& screen) { Find<QComboBox>(&screen, "Combo1")->setCurrentIndex(1); });
     auto* tree = Find<NodeTree>(&catalogue, "Tvw");
     for (const char* category : {"2", "3", "4", "5"}) {
-        QTreeWidgetItem* node = tree->topLevelItem(0);
-        while (NodeTree::Kind(node) != category) node = tree->itemBelow(node);
-        tree->setCurrentItem(node);
+        QTreeWidgetItemIterator node(tree);
+        while (NodeTree::Kind(*node) != category) ++node;
+        tree->setCurrentItem(*node);
         Attack(ClassOfKind(category)->dialog, "OKButton", [&] { Press(catalogue, "CmdAdd2"); });
     }
     Attack("frmInputXL", "OKButton", [&] { Press(catalogue, "CmdAdd1"); });
