@@ -13,15 +13,6 @@ QPushButton* MakeButton(const char* name, const QString& caption, QWidget* scree
     return button;
 }
 
-QString ComingToolTip() {
-    return QStringLiteral("此功能将在后续版本中提供。");
-}
-
-void MarkAsComing(QPushButton* button) {
-    button->setEnabled(false);
-    button->setToolTip(ComingToolTip());
-}
-
 QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons, QWidget* beside) {
     constexpr int kGap = 12;
     auto* row = new QHBoxLayout;

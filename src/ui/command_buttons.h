@@ -15,12 +15,6 @@ namespace kalvane {
 QPushButton* MakeButton(const char* name, const QString& caption, QWidget* screen,
                         const QString& toolTip = {});
 
-/// What a disabled command says whose screen is still to come.
-QString ComingToolTip();
-
-/// Disables a button whose screen is still to come.
-void MarkAsComing(QPushButton* button);
-
 /// A row of buttons at the right; `beside`, which may be null, takes the room left of them.
 QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons, QWidget* beside = nullptr);
 

@@ -18,7 +18,6 @@
 #include "app/startup.h"
 #include "session/app_state.h"
 #include "session/settings_in_force.h"
-#include "ui/command_buttons.h"
 #include "ui/guard.h"
 #include "ui/main_frame.h"
 #include "ui/message_notice.h"
@@ -128,11 +127,6 @@ void MDIMain::MakeStatusBar() {
 QAction* MDIMain::MakeAction(const QString& name, const MainEntry& entry) {
     auto* action = new QAction(QIcon(QStringLiteral(":/ui/%1.svg").arg(entry.icon)), entry.caption, this);
     action->setObjectName(name);
-    if (!entry.open) {
-        action->setEnabled(false);
-        action->setToolTip(ComingToolTip());
-        return action;
-    }
     OnSignal(action, &QAction::triggered, this, [this, open = entry.open] { open(*this); });
     if (entry.right) Guard(action, *entry.right);
     return action;

@@ -12,7 +12,7 @@ namespace kalvane {
 
 class MDIMain;
 
-/// One command of the main screen. Without `open` its screen is still to come, and it stays disabled.
+/// One command of the main screen.
 struct MainEntry {
     QString name;
     QString caption;
