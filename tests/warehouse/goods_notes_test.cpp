@@ -175,9 +175,11 @@ TEST_F(WarehouseTest, AKillInTheMiddleLeavesTheStockEqualToItsLines) {
     for (int round = 0; round < 10; ++round) {
         RunAndBeKilled([&] {
             Connection store(file_, StoreKind::Stock);
+            const auto takeIn = [&] { ConfirmNote(store, NoteKind::In, Note(NextEnterNo(store), lines)); };
+            takeIn();  // however slow the machine is
             ualarm(static_cast<useconds_t>(3000 + 2500 * round), 0);
             for (;;) {
-                ConfirmNote(store, NoteKind::In, Note(NextEnterNo(store), lines));
+                takeIn();
                 ConfirmNote(store, NoteKind::Out, Note(NextPostNo(store), {Line("3", "1"), Line("5", "2")}));
             }
         });
@@ -188,8 +190,6 @@ TEST_F(WarehouseTest, AKillInTheMiddleLeavesTheStockEqualToItsLines) {
         EXPECT_EQ(store_->OpenCursor("Select * from 入库单子表").RecordCount(), notes * 200);
         store_.reset();
     }
-    store_ = std::make_unique<Connection>(file_, StoreKind::Stock);
-    EXPECT_NE(Rows("Select * from 入库单"), "") << "no round came far enough to mean something";
 }
 
 TEST_F(WarehouseTest, FiltersAreCheckedByTheTypeOfTheirField) {
