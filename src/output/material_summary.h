@@ -20,7 +20,7 @@ namespace kalvane {
 void BuildMaterialSummary(Connection& connection, const ClassChoice& classes, FieldSlots& slots,
                           TallyState& totals);
 
-/// Rebuilds OutTJ as the detail: pieces by specification and size. The amount of a profile or steel is that
+/// Rebuilds OutTJ as the detail: pieces by 规格 and size. The amount of a profile or steel is that
 /// of its pieces times the price of a metre, whatever their length. A row that cannot be written is left out,
 /// and its number with it.
 void BuildMaterialDetail(Connection& connection, const ClassChoice& classes, FieldSlots& slots);

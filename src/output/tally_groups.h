@@ -18,7 +18,7 @@ struct ClassChoice {
     bool Has(MaterialClass materialClass) const;
 };
 
-/// The summary has a row for each specification, the detail for each specification and size.
+/// The summary has a row for each 规格, the detail for each 规格 and size.
 enum class TallyView { Summary, Detail };
 
 /// Raw rows of a tally that make one of its rows.

@@ -7,6 +7,7 @@
 #include "backup/restore.h"
 #include "backup/screens/copy_progress.h"
 #include "backup/screens/frmSaveFile.h"
+#include "numeric/error.h"
 #include "session/app_state.h"
 #include "ui/command_buttons.h"
 #include "ui/dialogs.h"
@@ -57,9 +58,14 @@ void frmTools::Restore() {
         UseDialogs().OpenFileName(this, frmSaveFile::Purpose(), QStringLiteral("打开数据库(*.MBK)|*.MBK"));
     if (file.isEmpty()) return;
     MessageNotice notice(this);
-    progress_->Run([&](const TableProgress& progress) {
-        RestoreMainStore(App().Main(), FromQt(file), progress, notice);
-    });
+    try {
+        progress_->Run([&](const TableProgress& progress) {
+            RestoreMainStore(App().Main(), FromQt(file), progress, notice);
+        });
+    } catch (const StoreDamage&) {
+        App().storesAreDoubtful = true;  // so that the next start checks, and offers a copy
+        throw;
+    }
 }
 
 }  // namespace kalvane
