@@ -135,7 +135,7 @@ TEST_F(TallyTest, SlotsCarryOverUntilTheNameIsBlank) {
     store_->Execute("Delete * from 型材");
     store_->Execute("Delete * from 型钢");
     Gather({Window("C1", "5", "1")});
-    // Nothing was looked up before the profile: no name, no price, and the key as specification.
+    // Nothing was looked up before the profile: no name, no price, and the key as 规格.
     EXPECT_EQ(Summary({true, false, false, false}), "1|#error#|K60|0|米|0|15.48\n2|~|~|~|~|~|~");
     // A fitting has six columns: slot 7 keeps the density of the dialog before, slot 8 the price of a ton.
     slots_[7] = "2";
